@@ -1,0 +1,99 @@
+#include "shell/main_program.h"
+
+#include <cstdio>
+
+#include "shell/console.h"
+#include "shell/format.h"
+#include "shell/frames.h"
+#include "shell/prompts.h"
+#include "shell/sio.h"
+#include "shell/stop.h"
+#include "shell/units.h"
+
+namespace {
+
+const fstr<20> PROGRAM_NAME = "tarnolix            ";
+const fstr<4> PROGRAM_VERSION = "12.3";
+const fstr<10> PROGRAM_DATE = "2024-09-14";
+
+void menu_line(std::string_view l) { writef(iocom.isout, "(3(1x,a))", l); }
+
+void print_main_menu() {
+    menu_line(DASHED);
+    menu_line("GENERAL PARAMETERS");
+    menu_line(DASHED);
+    menu_line("input/output status ................... 1");
+    menu_line("Run info set up ........................2");
+    menu_line(DASHED);
+    menu_line("PLOT PARAMETERS");
+    menu_line(DASHED);
+    menu_line("open plot file ........................10");
+    menu_line("set plot L/P,scaling,attributes,axes ..13");
+    menu_line("set projection ........................14");
+    menu_line("close plot file .......................20");
+    menu_line(DASHED);
+    menu_line("WELL DATA COMMANDS");
+    menu_line(DASHED);
+    menu_line("Read data from file ..................100");
+    menu_line("Set Borehole Parameters ..............110");
+    menu_line("Analysis & depth plots ...............120");
+    menu_line("Statistics plots .....................130");
+    menu_line("Perspective plots ....................140");
+    menu_line(DASHED);
+    menu_line("GENERAL COMMANDS");
+    menu_line(DASHED);
+    menu_line("Use command file.....................5000");
+    menu_line("Output level control ................5100");
+    menu_line("QUIT..................................999");
+    menu_line("FAST QUIT............................9999");
+    menutail();
+}
+
+}  // namespace
+
+void tarnolix_main() {
+    int ierr = 0;
+    int command = 0;
+
+    // Start-up: every subsystem to its defaults, in this order.
+    initsio2(5);
+
+    for (;;) {
+        mainmenuhead(PROGRAM_NAME, PROGRAM_VERSION, PROGRAM_DATE);
+        if (iocom.LWITO(2)) print_main_menu();
+        ininteg1(command, "your choice", ierr);
+
+        // Stage A: settings that touch nothing else.
+        switch (command) {
+        case 1: writesio(iocom.isout); break;
+        case 5100: moutputn(0); break;
+        default: break;
+        }
+
+        // Stage B: the plot file. It runs before stage C, so QUIT closes an
+        // open plot file before it asks for confirmation.
+
+        // Stage C: the well data commands and the end of the run.
+        if (command == 9999) break;
+        if (command == 999) {
+            inintegdef(command, "999 to confirm quit", command, ierr);
+            if (command == 999) break;
+        }
+    }
+}
+
+int run_engine() {
+    try {
+        tarnolix_main();
+    } catch (const program_stop& s) {
+        units_reset();
+        return s.status;
+    } catch (const console_closed& c) {
+        std::fprintf(stderr, "tarnolix: the console gave no more input (%s); run ended\n",
+                     c.why.c_str());
+        units_reset();
+        return 2;
+    }
+    units_reset();
+    return 0;
+}

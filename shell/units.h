@@ -1,0 +1,46 @@
+// Numbered units: the one place where unit numbers meet streams.
+//   5  keyboard            6  screen            (both: the console)
+//   12 data files          15 command file      20 colour table input
+//   50 plot file           55 output tables     99 temporary files
+// Any other number may be opened on a file as well.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "shell/console.h"
+
+constexpr int UNIT_KEYBOARD = 5;
+constexpr int UNIT_SCREEN = 6;
+constexpr int UNIT_DATA = 12;
+constexpr int UNIT_COMMANDS = 15;
+constexpr int UNIT_COLOURS = 20;
+constexpr int UNIT_PLOT = 50;
+constexpr int UNIT_TABLES = 55;
+constexpr int UNIT_TEMP = 99;
+
+// Opens a file on a unit. status: "old" (must exist), "new" (must not
+// exist), "replace" (created or truncated), "unknown" (opened for reading
+// and writing if it exists, created otherwise; written from its start).
+// action: "read", "write" or "readwrite" (blank means readwrite).
+// A unit already open is closed first. Returns false if the file can't be
+// opened; the unit is then closed.
+bool unit_open(int unit, std::string_view name, std::string_view status,
+               std::string_view action);
+void unit_close(int unit);
+// Closes the unit and removes its file.
+void unit_close_delete(int unit);
+bool unit_is_open(int unit);
+// The name the unit was opened with (empty for the console or a closed unit).
+std::string unit_name(int unit);
+
+// Reads one record (a line without its end). False at the end of the file,
+// for a unit not open or not readable. Unit 5 reads the console; a console
+// that has gone away raises console_closed (see shell/console.h).
+bool unit_read(int unit, std::string& rec);
+// Writes one record. Units 5 and 6 write to the console.
+void unit_write(int unit, std::string_view rec);
+void unit_flush(int unit);
+
+// Closes every unit but the console (used when a run ends, and by tests).
+void units_reset();

@@ -1,0 +1,59 @@
+// A console dialogue under test: scripted keyboard lines in, screen lines out.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+#include "shell/console.h"
+#include "shell/sio.h"
+#include "shell/units.h"
+
+struct Dialogue : ::testing::Test {
+    memory_console con;
+    console_scope scope{con};
+
+    void SetUp() override {
+        iocom = iocom_t{5, 6, 5, 6, 0, 0, false, false, true, {{true, true, false}}};
+        units_reset();
+    }
+    void TearDown() override { units_reset(); }
+
+    void type(std::initializer_list<std::string> lines) {
+        for (const auto& l : lines) con.type(l);
+    }
+    const std::vector<std::string>& screen() const { return con.screen; }
+    void clear() { con.screen.clear(); }
+
+    // The index of the first screen line equal to s at or after from, or -1.
+    int find(const std::string& s, int from = 0) const {
+        for (int k = from; k < int(con.screen.size()); ++k)
+            if (con.screen[std::size_t(k)] == s) return k;
+        return -1;
+    }
+    int count(const std::string& s) const {
+        int n = 0;
+        for (const auto& l : con.screen) n += l == s;
+        return n;
+    }
+    // The screen lines from index from on, n of them.
+    std::vector<std::string> lines(int from, int n) const {
+        return std::vector<std::string>(con.screen.begin() + from, con.screen.begin() + from + n);
+    }
+};
+
+// Frames as they appear on the screen.
+inline std::vector<std::string> error_head_lines(const std::string& name13) {
+    const std::string stars = " " + std::string(50, '*');
+    const std::string blank = " ***" + std::string(44, ' ') + "***";
+    return {stars, stars, blank, " ***          subroutine " + name13 + "          ***", blank,
+            " ***" + std::string(19, ' ') + "ERROR " + std::string(19, ' ') + "***", blank,
+            stars, stars};
+}
+inline std::vector<std::string> warning_head_lines(const std::string& name13) {
+    const std::string slashes = " " + std::string(50, '/');
+    return {slashes, " ///          subroutine " + name13 + "          ///",
+            " ///" + std::string(18, ' ') + "WARNING " + std::string(18, ' ') + "///", slashes};
+}

@@ -1,0 +1,335 @@
+// The prompts as a user meets them: what is shown, what an answer gives.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+
+#include "dialogue.h"
+#include "shell/frames.h"
+#include "shell/prompts.h"
+#include "shell/stop.h"
+
+namespace {
+
+using Prompts = Dialogue;
+using Lines = std::vector<std::string>;
+const std::string DOTS = " ..........................................";
+
+TEST_F(Prompts, IntegerWithDefaultShowsTheWholeCycle) {
+    type({"42"});
+    int v = 7, e = -1;
+    inintegdef(v, "number of bins                     ", v, e);
+    EXPECT_EQ(v, 42);
+    EXPECT_EQ(e, 0);
+    EXPECT_EQ(screen(), (Lines{DOTS, " Enter number of bins", " or return for default value",
+                               " Default =            7", " New value =            42", DOTS}));
+}
+
+TEST_F(Prompts, ReturnOrALeadingBlankTakesTheDefault) {
+    type({"", " 5", "\r"});
+    int v = 0, e;
+    inintegdef(v, "n", 3, e);
+    EXPECT_EQ(v, 3);
+    v = 0;
+    inintegdef(v, "n", 4, e);
+    EXPECT_EQ(v, 4);
+    float r = 0;
+    inrealdef(r, "r", 2.5f, e);
+    EXPECT_EQ(r, 2.5f);
+}
+
+TEST_F(Prompts, OnlyTheFirstTwentyCharactersOfANumberAreRead) {
+    type({"000000000000000000059"});
+    int v = 0, e;
+    inintegdef(v, "n", 1, e);
+    EXPECT_EQ(v, 5);
+}
+
+TEST_F(Prompts, AFractionIsNotAnIntegerAndTheQuestionComesAgain) {
+    type({"5.5", "", "6"});
+    int v = 0, e;
+    inintegdef(v, "count", 1, e);
+    EXPECT_EQ(v, 6);
+    int c = find(" could not read count");
+    ASSERT_GT(c, 9);
+    EXPECT_EQ(lines(c - 9, 9), error_head_lines("  inintegdef "));
+    EXPECT_EQ(screen()[std::size_t(c + 1)], " ==> RETRYING");
+    EXPECT_EQ(count(" Enter count"), 2);
+}
+
+TEST_F(Prompts, IntegerRangeLineFitsTheBounds) {
+    type({"12", "", "-4", "", "3"});
+    int v = 0, e;
+    inintegvin1(v, "class", -5, 10, e);
+    EXPECT_EQ(v, -4);
+    EXPECT_EQ(lines(0, 3), (Lines{DOTS, " Enter class", " inside  [-5,10]"}));
+    int f = find(" class =           12");
+    ASSERT_GT(f, 9);
+    EXPECT_EQ(lines(f - 9, 9), error_head_lines("  inintegvin1"));
+    EXPECT_EQ(screen()[std::size_t(f + 1)], " outside [-5,10]");
+}
+
+TEST_F(Prompts, ADefaultOutsideTheRangeIsRefusedToo) {
+    type({"", "", "2"});
+    int v = 0, e;
+    inintegvindef(v, "k", 9, 1, 3, e);
+    EXPECT_EQ(v, 2);
+    EXPECT_EQ(count(" outside [1,3]"), 1);
+    int f = find(" k =            9");
+    ASSERT_GT(f, 9);
+    // A name of 13 characters fills its field exactly.
+    EXPECT_EQ(lines(f - 9, 9), error_head_lines("inintegvindef"));
+}
+
+TEST_F(Prompts, EqualBoundsAcceptOnlyThatValue) {
+    type({"4", "", "5"});
+    int v = 0, e;
+    inintegvindef(v, "k", 5, 5, 5, e);
+    EXPECT_EQ(v, 5);
+    EXPECT_EQ(count(" inside  [5,5]"), 2);
+}
+
+TEST_F(Prompts, RealRangeFormatsFollowTheSizeOfTheBounds) {
+    struct Case {
+        float lo, hi;
+        std::string line;
+    } cases[] = {
+        {0.f, 1.f, " inside  [ 0.000, 1.000]"},
+        {0.f, 90.f, " inside  [  0.000, 90.000]"},
+        {0.f, 360.f, " inside  [   0.00, 360.00]"},
+        {0.f, 15000.f, " inside  [      0.0,*******]"},
+        {0.f, 1.e8f, " inside  [          0.0, 100000000.]"},
+    };
+    for (const auto& c : cases) {
+        clear();
+        type({""});
+        float v = c.lo;
+        int e;
+        inrealvindef(v, "x", c.lo, c.lo, c.hi, e);
+        EXPECT_EQ(screen()[2], c.line) << c.hi;
+    }
+}
+
+TEST_F(Prompts, RealDefaultLineFollowsTheSizeOfItsValues) {
+    type({"", "", ""});
+    float v = 0.5f;
+    int e;
+    inrealvindef(v, "x", v, 0.f, 1.f, e);
+    EXPECT_EQ(screen()[4], " Default =  0.500");
+    EXPECT_EQ(screen()[5], " New value =  0.500000    ");
+    clear();
+    v = 45.f;
+    inrealvindef(v, "x", v, 0.f, 90.f, e);
+    EXPECT_EQ(screen()[4], " Default =  45.000");
+    clear();
+    v = 2500.f;
+    inrealvindef(v, "x", v, 0.f, 15000.f, e);
+    // Ties round to even, as everywhere in the formatter.
+    EXPECT_EQ(screen()[4], " Default =" + std::string(14, ' ') + "0.2E+04");
+}
+
+TEST_F(Prompts, RealOutsideRangeAndNotANumber) {
+    type({"400", "", "nonsense", "", "12.25"});
+    float v = 0;
+    int e;
+    inrealvindef(v, "azimuth", 0.f, 0.f, 360.f, e);
+    EXPECT_EQ(v, 12.25f);
+    EXPECT_GT(find(" azimuth =  400.000    "), 0);
+    EXPECT_GT(find(" outside [   0.00, 360.00]"), 0);
+    EXPECT_GT(find(" could not read azimuth"), 0);
+}
+
+TEST_F(Prompts, CharacterWithDefault) {
+    type({"", "my_well.txt"});
+    fstr<20> name = "well.txt";
+    int e;
+    inchardef(name, "data file name", name, e);
+    EXPECT_EQ(name, "well.txt");
+    EXPECT_EQ(screen(), (Lines{DOTS, " Enter data file name", " or return for default value",
+                               " Default = well.txt", " ichar =  32 => use default value",
+                               " New value = well.txt            ", DOTS}));
+    clear();
+    inchardef(name, "data file name", name, e);
+    EXPECT_EQ(name, "my_well.txt");
+}
+
+TEST_F(Prompts, CharacterAnswersAreCutAtEightyCharacters) {
+    std::string longname(85, 'x');
+    longname[79] = 'A';
+    longname[80] = 'B';
+    type({longname, "  two words"});
+    fstr<100> name;
+    int e;
+    inchardef(name, "file", "", e);
+    EXPECT_EQ(name.trimmed(), longname.substr(0, 80));
+    fstr<8> shortname;
+    inchar1(shortname, "title", e);
+    EXPECT_EQ(shortname, "  two wo");
+}
+
+TEST_F(Prompts, YesNoAnswers) {
+    struct Case {
+        std::string typed;
+        bool def, expect;
+    } cases[] = {{"yes", false, true}, {"Y", false, true}, {"1", false, true},
+                 {"no", true, false},  {"N", true, false}, {"0", true, false},
+                 {"", true, true},     {"", false, false}, {" y", false, false}};
+    for (const auto& c : cases) {
+        type({c.typed});
+        bool v = !c.expect;
+        int e;
+        inlogicdef(v, "go on", c.def, e);
+        EXPECT_EQ(v, c.expect) << "'" << c.typed << "'";
+    }
+}
+
+TEST_F(Prompts, HelpIsNoErrorButAWrongAnswerIs) {
+    type({"help", "2", "", "y"});
+    bool v = false;
+    int e;
+    inlogicdef(v, "go on", false, e);
+    EXPECT_TRUE(v);
+    EXPECT_EQ(count(" answer Yes    y or Y or 1    "), 2);
+    EXPECT_EQ(count(" incorrect answer: 2"), 1);
+    EXPECT_EQ(count(" could not read answer to go on"), 0);
+    int h = find(" @ subroutine inlogicdef" + std::string(12, ' ') + "v1.4 2024-02-05");
+    ASSERT_GT(h, 0);
+    EXPECT_EQ(lines(h + 2, 7), (Lines{
+                                   "    To         type           ",
+                                   " -----------------------------",
+                                   " get help      h or H         ",
+                                   " answer Yes    y or Y or 1    ",
+                                   " answer No     n or N or 0    ",
+                                   " use default   Carriage Return",
+                                   " " + std::string(50, '@'),
+                               }));
+}
+
+TEST_F(Prompts, TextLengths) {
+    int f, l;
+    textlen(f, l, "                    ");
+    EXPECT_EQ(f, 20);
+    EXPECT_EQ(l, 20);
+    textlen(f, l, "  ab c  ");
+    EXPECT_EQ(f, 3);
+    EXPECT_EQ(l, 6);
+    int n;
+    for (auto [v, c] : {std::pair{0, 1}, {7, 1}, {10, 2}, {999, 3}, {1000, 4}, {-1, 2},
+                        {-100, 4}, {123456789, 9}}) {
+        integlen(n, v);
+        EXPECT_EQ(n, c) << v;
+    }
+}
+
+// Value checks at their severities.
+TEST_F(Prompts, ValueCheckInsideSaysNothing) {
+    int v = 3, r = -1;
+    cinvin3(v, 1, 3, "k", "here", 1, r);
+    EXPECT_EQ(r, 0);
+    EXPECT_TRUE(screen().empty());
+}
+
+TEST_F(Prompts, ValueCheckResetsAtGravityTen) {
+    type({""});
+    int v = 12, r = 0;
+    cinvin3(v, 1, 10, "nbin", "shstnb", 10, r);
+    EXPECT_EQ(r, 2);
+    EXPECT_EQ(v, 10);
+    // The integer check opens an error frame and closes it as a warning.
+    EXPECT_EQ(lines(0, 9), error_head_lines("  cinvin3    "));
+    EXPECT_EQ(lines(9, 6), (Lines{
+                               " Problem in subroutine: shstnb",
+                               " Gravity level [0-4]U[10,14] =       10",
+                               " nbin =       12 outside [        1 ,       10 ]",
+                               " nbin =       12 >       10",
+                               " ==> RESET nbin =       10",
+                               " ===> HIT RETURN TO CONTINUE",
+                           }));
+    EXPECT_EQ(screen().back(), " " + std::string(50, '/'));
+
+    clear();
+    type({""});
+    float x = -1.f;
+    crevin3(x, 0.f, 5.f, "x", "here", 10, r);
+    EXPECT_EQ(r, 1);
+    EXPECT_EQ(x, 0.f);
+    EXPECT_EQ(lines(0, 4), warning_head_lines("  crevin3    "));
+    EXPECT_EQ(screen()[8], " ==> RESET x =      0.000    ");
+}
+
+TEST_F(Prompts, ValueCheckWithAnUnknownGravityStopsOnRequest) {
+    type({"", "", ""});
+    int v = 0, r = 0;
+    EXPECT_THROW(cinvin3(v, 1, 2, "k", "here", 5, r), program_stop);
+    EXPECT_GT(find(" ==> Do as if gravity = 3"), 0);
+    EXPECT_GT(find(" UNRECOVERABLE ERROR ==> QUITTING ADVISED"), 0);
+    EXPECT_GT(find(" EXECUTION STOPPED BY USER"), 0);
+    EXPECT_EQ(v, 0);
+}
+
+TEST_F(Prompts, ErrorStopCodes) {
+    type({"", ""});
+    errortailstop(0);  // return: resume, as advised
+    EXPECT_GT(find(" RESUMING EXECUTION"), 0);
+    clear();
+    type({"0", ""});
+    errortailstop(1);  // no: go on into the twilight zone
+    EXPECT_GT(find(" ENTERING THE TWILIGHT ZONE OF COMPUTING !"), 0);
+    EXPECT_GT(find("        " + std::string("            &&&&&&&&&&&&            ")), 0);
+    clear();
+    type({""});
+    EXPECT_THROW(errortailstop(2), program_stop);
+    EXPECT_GT(find(" EXECUTION STOPPED BY PROGRAM"), 0);
+    clear();
+    errortailstop(3);
+    EXPECT_TRUE(screen().empty());
+}
+
+TEST_F(Prompts, PauseInACommandFileStillReadsTheKeyboard) {
+    iocom.lcmdopen = true;
+    type({""});
+    errortail00();
+    EXPECT_EQ(screen(), (Lines{" ===> HIT RETURN TO RESUME COMMANDS", " " + std::string(50, '*')}));
+    EXPECT_TRUE(con.keys.empty());
+}
+
+TEST_F(Prompts, MenuHeadsTrimTheVersion) {
+    submenuhead("writesio", " 1.2", "16-12-98  ");
+    EXPECT_EQ(screen()[1], " @ subroutine writesio" + std::string(14, ' ') + "v1.2 16-12-98  ");
+}
+
+// Random answers never crash a prompt: each one ends with a valid value, or
+// is still asking when the keyboard runs out.
+TEST_F(Prompts, RandomAnswersNeverBreakAPrompt) {
+    std::mt19937 rng(20261121);
+    const std::string alphabet = "0123456789 +-.,eEdD/*'\"\tabcxyYnNh\r";
+    auto random_line = [&] {
+        std::string s;
+        int n = int(rng() % 30);
+        for (int k = 0; k < n; ++k) s.push_back(alphabet[rng() % alphabet.size()]);
+        return s;
+    };
+    for (int round = 0; round < 300; ++round) {
+        clear();
+        con.keys.clear();
+        for (int k = 0; k < 6; ++k) type({random_line()});
+        int e = 0;
+        try {
+            switch (round % 8) {
+            case 0: { int v = 0; ininteg1(v, "a", e); break; }
+            case 1: { int v = 0; inintegdef(v, "a", 1, e); break; }
+            case 2: { int v = 0; inintegvin1(v, "a", -3, 3, e); EXPECT_TRUE(v >= -3 && v <= 3); break; }
+            case 3: { int v = 0; inintegvindef(v, "a", 0, 0, 9, e); EXPECT_TRUE(v >= 0 && v <= 9); break; }
+            case 4: { float v = 0; inrealdef(v, "a", 1.f, e); break; }
+            case 5: { float v = 0; inrealvindef(v, "a", 1.f, 0.f, 2.f, e); EXPECT_TRUE(v >= 0.f && v <= 2.f); break; }
+            case 6: { fstr<10> v; inchardef(v, "a", "d", e); break; }
+            case 7: { bool v = false; inlogicdef(v, "a", true, e); break; }
+            }
+            EXPECT_EQ(e, 0);
+        } catch (const console_closed&) {
+            // Still asking: the script ran out.
+        }
+    }
+}
+
+}  // namespace

@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds, and runs the bundled demo analysis on
+# the sample well from a keyboard script. Output files land in demo/.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+bash tools/install_deps.sh
+cmake -S . -B build -G Ninja -DTARNOLIX_TESTS=OFF
+cmake --build build -j "$(nproc)"
+mkdir -p demo
+cp data/*.txt demo/ 2>/dev/null || true
+cd demo
+../build/tarnolix < ../data/demo.keys
+echo
+echo "demo output is in $(pwd)"
