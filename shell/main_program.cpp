@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "shell/cmdfile.h"
 #include "shell/console.h"
 #include "shell/format.h"
 #include "shell/frames.h"
@@ -54,6 +55,8 @@ void print_main_menu() {
 void tarnolix_main() {
     int ierr = 0;
     int command = 0;
+    // Carried from one use of command 5000 to the next; blank at first.
+    fstr<20> cmdfile;
 
     // Start-up: every subsystem to its defaults, in this order.
     initsio2(5);
@@ -66,6 +69,7 @@ void tarnolix_main() {
         // Stage A: settings that touch nothing else.
         switch (command) {
         case 1: writesio(iocom.isout); break;
+        case 5000: altsio2(cmdfile, command, 0); break;
         case 5100: moutputn(0); break;
         default: break;
         }

@@ -84,6 +84,9 @@ void opef1(fstr_ref fname, std::string_view label, int unit, std::string_view st
             return;
         }
         ierr = 1;
+        // The name typed stays the caller's, so a message or the next
+        // default can show it.
+        fname.assign(trimmed(name));
         if (inter != 0) break;
         warninghead(VB_OPEF1);
         writef(iocom.ieout, "(5(1x,a))", "COULD NOT OPEN", lab, "FILE");

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -19,7 +20,11 @@ struct Dialogue : ::testing::Test {
         iocom = iocom_t{5, 6, 5, 6, 0, 0, false, false, true, {{true, true, false}}};
         units_reset();
     }
-    void TearDown() override { units_reset(); }
+    void TearDown() override {
+        // A failed dialogue test shows the whole screen.
+        if (HasFailure()) std::fprintf(stderr, "---- screen ----\n%s----\n", con.text().c_str());
+        units_reset();
+    }
 
     void type(std::initializer_list<std::string> lines) {
         for (const auto& l : lines) con.type(l);
