@@ -1,0 +1,447 @@
+#include "plot/device/psdevice.h"
+
+#include <cmath>
+#include <cstdio>
+#include <cstring>
+#include <string>
+
+#include "math/angles.h"
+#include "plot/attributes.h"
+#include "plot/pages.h"
+#include "shell/format.h"
+#include "shell/frames.h"
+#include "shell/prompts.h"
+#include "shell/sio.h"
+#include "shell/textconv.h"
+#include "shell/textlen.h"
+#include "shell/units.h"
+#include "tables/fileopen.h"
+
+psparams_90_t psparams_90;
+
+namespace {
+
+constexpr version_block VB_INTPLINIT{"intplinit  ", " 9.1", "2024-05-29"};
+constexpr version_block VB_INTPLEND{"intplend   ", "10.0", "2024-05-28"};
+constexpr version_block VB_PSMOVETO{"psmoveto   ", " 9.0", "2024-05-26"};
+constexpr version_block VB_PSLINETO{"pslineto   ", " 9.0", "2024-05-26"};
+
+constexpr std::string_view DEFAULTS_FILE = "quarp9_ini.txt";
+constexpr std::string_view RULE43 = "-------------------------------------------";
+constexpr std::string_view RULE50 = "==================================================";
+
+// Beyond this a coordinate is surely a wild value; PostScript readers choke
+// well before their own number range ends.
+constexpr float DEVLIMIT = 9.9e+07f;
+// Points to metres, for telling the user how far off the page a value is.
+constexpr float PT2M = 0.00035278f;
+
+// The longest number text is 10 characters; a line holds two of them and
+// the operator.
+constexpr int NUMTEXT = 10;
+
+void ps(std::string_view line) { unit_write(psparams_90.iunitps, line); }
+
+// Resets a coordinate past the device limit, with a frame of its own.
+void limit(float& v, bool is_x, const version_block& vb) {
+    if (v > DEVLIMIT) {
+        warninghead(vb);
+        writef(iocom.isout, "(5(1x,a,1x,g10.3))", is_x ? "x in meters =" : "y in meters =",
+               v * PT2M, is_x ? "==> reset to xmax =" : "==> reset to ymax =", DEVLIMIT * PT2M);
+        warningtail00();
+        v = DEVLIMIT;
+    } else if (v < -DEVLIMIT) {
+        warninghead(vb);
+        writef(iocom.isout, "(5(1x,a,1x,g10.3))", is_x ? "x in meters =" : "y in meters =",
+               v * PT2M, is_x ? "==> reset to xmin =" : "==> reset to ymin =", -DEVLIMIT * PT2M);
+        warningtail00();
+        v = -DEVLIMIT;
+    }
+}
+
+// One "x y word" line, laid out as the formats "(a,10(1x,a))" (moveto) and
+// "(a,1x,a,1x,'lineto')" do, but built in place: this runs for every point
+// of every line drawn, and must not allocate.
+void point_line(float x, float y, const char* word) {
+    char buf[2 * NUMTEXT + 24];
+    int k = psnumtext(buf, x);
+    buf[k++] = ' ';
+    k += psnumtext(buf + k, y);
+    buf[k++] = ' ';
+    std::size_t w = std::strlen(word);
+    std::memcpy(buf + k, word, w);
+    ps(std::string_view(buf, std::size_t(k) + w));
+}
+
+void colour_line(int i) {
+    writef(psparams_90.iunitps, "(3(f6.3,1x),a)", plt2blk.RED(i) / 100.0f,
+           plt2blk.GREEN(i) / 100.0f, plt2blk.BLUE(i) / 100.0f, "setrgbcolor");
+}
+
+void fill_tables() {
+    psparams_90.iunitps = UNIT_PLOT;
+    psparams_90.NAMSIZE(1) = "Portrait A4";
+    psparams_90.NAMSIZE(2) = "Portrait US Letter";
+    psparams_90.NAMSIZE(3) = "Landscape A4";
+    psparams_90.NAMSIZE(4) = "Landscape US Letter";
+    psparams_90.ISIZEMIN(1) = 595;
+    psparams_90.ISIZEMAX(1) = 842;
+    psparams_90.ISIZEMIN(2) = 612;
+    psparams_90.ISIZEMAX(2) = 792;
+    psparams_90.ISIZEMIN(3) = 595;
+    psparams_90.ISIZEMAX(3) = 842;
+    psparams_90.ISIZEMIN(4) = 612;
+    psparams_90.ISIZEMAX(4) = 792;
+}
+
+void fill_fonts() {
+    static const char* const names[16] = {
+        "/Helvetica",   "/Helvetica-Bold",   "/Helvetica-Oblique",   "/Helvetica-BoldOblique",
+        "/Times-Roman", "/Times-Bold",       "/Times-Italic",        "/Times-BoldItalic",
+        "/Courier",     "/Courier-Bold",     "/Courier-Oblique",     "/Courier-BoldOblique",
+        "/Symbol",      "/Symbol-Bold",      "/Symbol-Oblique",      "/Symbol-BoldOblique"};
+    for (int i = 1; i <= 16; ++i) psparams_90.FONTS(i) = names[i - 1];
+}
+
+void banner() {
+    const int o = iocom.isout;
+    const char* const lines[] = {
+        "@                                                @",
+        "@               Quartos PS Library               @",
+        "@          Version 10.2  on  2024-05-29          @",
+        "@             Origins and credits :              @",
+        "@  PSPLOT pen plotter calls, J. Lemaire, 1987    @",
+        "@  QUARTOS PS device layer, P. Ardenne, 1996     @",
+        "@                                                @",
+    };
+    for (const char* l : lines) writef(o, "(5(1x,a))", l);
+    writef(o, "(5(1x,a))", RULE50);
+    writef(o, "(5(1x,a))", RULE43);
+    writef(o, "(5(1x,a))", "             Default Settings:");
+    writef(o, "(5(1x,a))", RULE43);
+    writef(o, "(5(1x,a))", "Orientation and size =", psparams_90.NAMSIZE(psparams_90.isizeps));
+    writef(o, "(5(1x,a))", RULE43);
+}
+
+// Reads the page format of the defaults file; false if the file must be
+// written anew (missing, unreadable or holding no valid format).
+bool read_defaults() {
+    fstr<40> fname = DEFAULTS_FILE;
+    int ierr = 0;
+    opef1(fname, "plot init", psparams_90.iunitps, "old", "read", 7, -1, ierr);
+    bool good = false;
+    if (ierr == 0) {
+        int isize = 0;
+        if (readlist(psparams_90.iunitps, isize) && isize >= 1 && isize <= 4) {
+            psparams_90.isizeps = isize;
+            good = true;
+        }
+        unit_close(psparams_90.iunitps);
+    }
+    if (!good) psparams_90.isizeps = 1;
+    return good;
+}
+
+void write_defaults() {
+    const int o = iocom.isout;
+    writef(o, "(5(1x,a))", RULE43);
+    writef(o, "(5(1x,a))", "updating or creating quarp9_ini.txt");
+    fstr<40> fname = DEFAULTS_FILE;
+    int ierr = 0;
+    opef1(fname, "plot init", psparams_90.iunitps, "unknown", "write", 7, 0, ierr);
+    if (ierr == 0) {
+        std::string quoted = "'" + std::string(trimmed(psparams_90.NAMSIZE(psparams_90.isizeps))) + "'";
+        writef(psparams_90.iunitps, "(1x,i2,1x,a)", psparams_90.isizeps, quoted);
+        writef(psparams_90.iunitps, "(a)", " ");
+        unit_close(psparams_90.iunitps);
+        writef(o, "(5(1x,a))", "quarp9_ini.txt updated or created");
+        writef(o, "(5(1x,a))", RULE43);
+    } else {
+        writef(o, "(5(1x,a))", "Could not update or create quarp9_ini.txt");
+        writef(o, "(5(1x,a))", "=> altered defaults are not saved for next run");
+        writef(o, "(5(1x,a))", "=> Proceeding");
+        writef(o, "(5(1x,a))", RULE43);
+    }
+}
+
+void file_head() {
+    const int u = psparams_90.iunitps;
+    const int s = psparams_90.isizeps;
+    ps("%!");
+    ps("% Initialize coordinate system and scales");
+    ps("%%Pages: (atend)");
+    // Landscape pages keep the portrait box: the page itself is not turned,
+    // only the drawing on it.
+    writef(u, "(a,4(1x,i4))", "%%BoundingBox:", 0, 0, psparams_90.ISIZEMIN(s),
+           psparams_90.ISIZEMAX(s));
+    if (s == 3 || s == 4) writef(u, "(2(i4,1x),a)", psparams_90.ISIZEMIN(s), 0, "translate 90 rotate");
+    psrgbcolor(-1);
+    ps("% Ready to go");
+    writef(u, "(a,4(1x,i4))", "%%Page:", psparams_90.npageps, psparams_90.npageps);
+}
+
+}  // namespace
+
+int psnumtext(char* text, float value) {
+    // The width is worked out from the value, as real2charf1 does, so that
+    // no blank is written: 2 decimals, at most 10 characters.
+    constexpr int maximum = NUMTEXT;
+    int d = 2;
+    const float t = std::pow(10.f, float(-d)) + 1e-07f;
+    const float low = value - t, high = value + t;
+    int m = 1, count = 0;
+    bool sized = true;
+    if (high <= -1.f) {
+        m = int(std::log(std::fabs(low)) * 0.4342945f) + 1;
+        count = m + d + 2;
+    } else if (value < 0.f) {
+        count = d + 3;
+    } else if (low < 1.f) {
+        count = d + 2;
+    } else if (low >= 1.f) {
+        m = int(std::log(std::fabs(high)) * 0.4342945f) + 1;
+        count = m + d + 1;
+    } else {
+        sized = false;  // NaN
+    }
+    if (sized && count > maximum) {
+        count = maximum;
+        d = maximum - m - 2;
+    }
+    if (!sized || d < 0) {
+        // Values no plot should hold: the general routine reports them.
+        fstr<NUMTEXT> f;
+        int n = 0;
+        real2charf1(f, n, 2, maximum, value);
+        if (n < 1 || n > maximum) n = maximum;
+        std::memcpy(text, f.c, std::size_t(n));
+        return n;
+    }
+    char buf[64];
+    int n = std::snprintf(buf, sizeof buf, "%#*.*f", count, d, double(value));
+    if (n != count) {
+        // As a fixed-field write does with a value too wide for its field.
+        std::memset(text, '*', std::size_t(count));
+        return count;
+    }
+    std::memcpy(text, buf, std::size_t(count));
+    return count;
+}
+
+void intplinit(fstr_ref name, const int& inter) {
+    const int o = iocom.isout;
+    int ierr = 0;
+
+    fill_tables();
+    bool rewrite = !read_defaults();
+
+    submenuhead(VB_INTPLINIT);
+    if (iocom.LWITO(2)) banner();
+
+    bool usedef = true;
+    inlogicdef(usedef, "Use default settings", true, ierr);
+    if (!usedef) {
+        writef(o, "(5(1x,a))", RULE43);
+        writef(o, "(5(1x,a))", "        Updating Default Settings:");
+        writef(o, "(5(1x,a))", RULE43);
+        writef(o, "(5(1x,a))", "Page orientation and size ....... Command");
+        for (int i = 1; i <= 4; ++i)
+            writef(o, "(1x,a20,1x,18('.'),1x,i1)", psparams_90.NAMSIZE(i), i);
+        int isize = psparams_90.isizeps;
+        inintegvindef(isize, "command", isize, 1, 4, ierr);
+        psparams_90.isizeps = isize;
+        rewrite = true;
+    }
+    if (rewrite) write_defaults();
+
+    opef1(name, "PostScript plot", psparams_90.iunitps, "unknown", "write", inter % 2, 1, ierr);
+
+    psparams_90.npageps = 1;
+    psparams_90.ipathps = 0;
+    fill_fonts();
+    file_head();
+}
+
+void intplend() {
+    int ierr = 0;
+    submenuhead(VB_INTPLEND);
+    if (iocom.LWITO(2)) textline("Ready to close the PostScript plot file");
+    fstr<80> answer;
+    inchar1(answer, "CR = Return to close the PostScript file", ierr);
+    psstrokepath();
+    // No gsave here: nothing is drawn after the last page.
+    ps("showpage");
+    ps("%%End Page");
+    ps("%%Trailer");
+    writef(psparams_90.iunitps, "(a,1x,i3)", "%%Pages:", psparams_90.npageps);
+    ps("%%EOF");
+    unit_close(psparams_90.iunitps);
+    textline("The PostScript plot file is closed");
+    menutail();
+}
+
+void intnewpage() {
+    psstrokepath();
+    // showpage resets the graphics state; the gsave pair carries line width,
+    // colour and the landscape rotation over to the next page.
+    ps("gsave showpage");
+    ps("%%End Page");
+    ps("grestore");
+    psparams_90.npageps = psparams_90.npageps + 1;
+    writef(psparams_90.iunitps, "(a,2(1x,i3))", "%%Page:", psparams_90.npageps,
+           psparams_90.npageps);
+}
+
+void psmoveto(float& x, float& y, const int& mode) {
+    limit(x, true, VB_PSMOVETO);
+    limit(y, false, VB_PSMOVETO);
+    psstrokepath();
+    if (mode == 1) {
+        ps("newpath");
+        point_line(x, y, "moveto");
+        psparams_90.ipathps = 1;
+    } else if (mode == 0) {
+        // Only the current point, for a string: no path is opened.
+        point_line(x, y, "moveto");
+    }
+}
+
+void pslineto(float* x, float* y, const int& n) {
+    if (psparams_90.ipathps == 0) {
+        warninghead(VB_PSLINETO);
+        textline("Path begins with Draw instead of Move");
+        warningtail00();
+        psparams_90.ipathps = 1;
+    }
+    for (int i = 0; i < n; ++i) {
+        limit(x[i], true, VB_PSLINETO);
+        limit(y[i], false, VB_PSLINETO);
+        point_line(x[i], y[i], "lineto");
+    }
+}
+
+void psstrokepath() {
+    if (psparams_90.ipathps == 0) return;
+    // The colour goes in after the path is built, so a path takes the line
+    // colour in force when it is stroked.
+    psrgbcolor(1);
+    ps("stroke");
+    psparams_90.ipathps = 0;
+}
+
+void psrgbcolor(const int& mode) {
+    if (plt2blk.lcolor == 0) return;
+    int want;
+    switch (mode) {
+    case -1:
+        colour_line(1);
+        plt2blk.icolcur = 1;
+        return;
+    case 0:
+        colour_line(plt2blk.icolcur);
+        return;
+    case 1: want = plt2blk.ilinecol; break;
+    case 2: want = plt2blk.ifillcol; break;
+    case 3: want = plt2blk.itextcol; break;
+    default: return;
+    }
+    if (plt2blk.icolcur == want) return;
+    colour_line(want);
+    plt2blk.icolcur = want;
+}
+
+void deline(float* x, float* y, const int& n) {
+    if (n <= 0) return;
+    psmoveto(x[0], y[0], 1);
+    if (n == 1) {
+        // A lone point is a zero-length line, which round caps show as a dot.
+        pslineto(x, y, 1);
+    } else {
+        pslineto(x + 1, y + 1, n - 1);
+    }
+    psstrokepath();
+}
+
+void depolygon(float* x, float* y, const int& n) {
+    if (n <= 0) return;
+    psmoveto(x[0], y[0], 1);
+    if (n > 1) pslineto(x + 1, y + 1, n - 1);
+    if (plt2blk.ifillsty == 0) {
+        ps("closepath");
+    } else {
+        // The fill runs inside gsave/grestore, which keeps the path for the
+        // outline and undoes the fill colour: icolcur stays true.
+        ps("closepath gsave");
+        const int u = psparams_90.iunitps;
+        if (plt2blk.lcolor != 0) {
+            const int i = plt2blk.ifillcol;
+            writef(u, "(3(f6.3,1x),a)", plt2blk.RED(i) / 100.0f, plt2blk.GREEN(i) / 100.0f,
+                   plt2blk.BLUE(i) / 100.0f, "setrgbcolor fill grestore");
+        } else {
+            writef(u, "(f6.3,1x,a)", 0.5f, "setgray fill grestore");
+        }
+    }
+    psstrokepath();
+}
+
+void detext2(float& x, float& y, std::string_view text) {
+    const int u = psparams_90.iunitps;
+    const int just = plt2blk.ijustif;
+    const int ajust = just < 0 ? -just : just;
+
+    std::string_view t = text;
+    if (just < 0) t = trimmed(text);
+
+    float xs = x, ys = y;
+    const int v = ajust / 4;
+    if (v != 0) {
+        // Down the text's own axis, so that the string's base lands where
+        // the base must be for the point to be at mid-height or top.
+        const float h = psparams_90.textsizeps * 0.5f * float(v);
+        const float a = rad(plt2blk.textangle);
+        xs = x + std::sin(a) * h;
+        ys = y - std::cos(a) * h;
+    }
+    psmoveto(xs, ys, 0);
+
+    if (plt2blk.textangle != 0.0f) writef(u, "(f7.2,1x,a)", plt2blk.textangle, "rotate");
+
+    fstr<12> size;
+    int nsize = 0;
+    intg2char(size, nsize, 12, int(psparams_90.textsizeps));
+    int ifont = psparams_90.ifontps;
+    if (ifont < 1 || ifont > 16) ifont = 1;
+    writef(u, "(a,5(1x,a))", size.sub(1, nsize), trimmed(psparams_90.FONTS(ifont)),
+           "findfont exch scalefont setfont");
+
+    psrgbcolor(3);
+
+    const int m = ajust % 4;
+    if (m == 0 || m == 1) {
+        writef(u, "('(',a,')',1x,a)", t, "show");
+    } else {
+        writef(u, "('(',a,')')", t);
+        writef(u, "(a,1x,i2,1x,a)", "dup stringwidth pop", m - 4, "div 0 rmoveto");
+        ps("show");
+    }
+
+    if (plt2blk.textangle != 0.0f) writef(u, "(f7.2,1x,a)", -plt2blk.textangle, "rotate");
+}
+
+void intslinewidth(const float& width) {
+    psstrokepath();
+    char buf[NUMTEXT];
+    int k = psnumtext(buf, width);
+    writef(psparams_90.iunitps, "(a,5(1x,a))", std::string_view(buf, std::size_t(k)),
+           "setlinewidth");
+}
+
+void intstextfont(const int& font) {
+    psparams_90.ifontps = font;
+    psstrokepath();
+}
+
+void intstextsize(const float& height) {
+    float h = height;
+    lengthcm2de(psparams_90.textsizeps, h);
+}

@@ -1,0 +1,219 @@
+// Matrix products and inverse, the straight-line fit, the index sort.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+#include <vector>
+
+#include "dialogue.h"
+#include "math/angles.h"
+#include "math/lstsq1.h"
+#include "math/matrix.h"
+#include "math/ranind.h"
+#include "shell/stop.h"
+
+namespace {
+
+class numerics : public Dialogue {
+protected:
+    void SetUp() override {
+        Dialogue::SetUp();
+        iocom.lpause = false;
+        trigoset();
+        clear();
+    }
+};
+
+std::vector<int> sorted_index(const std::vector<float>& x) {
+    std::vector<int> ind(x.size(), -1);
+    ranind(int(x.size()), x.data(), ind.data());
+    return ind;
+}
+
+void expect_sorted(const std::vector<float>& x, const std::vector<int>& ind) {
+    std::vector<int> perm = ind;
+    std::sort(perm.begin(), perm.end());
+    std::vector<int> one_to_n(x.size());
+    std::iota(one_to_n.begin(), one_to_n.end(), 1);
+    ASSERT_EQ(perm, one_to_n) << "not a permutation";
+    for (std::size_t i = 1; i < ind.size(); ++i)
+        EXPECT_LE(x[std::size_t(ind[i - 1] - 1)], x[std::size_t(ind[i] - 1)]) << "at " << i;
+}
+
+}  // namespace
+
+// ---------------------------------------------------------------------------
+// Matrices (stored by columns)
+
+TEST_F(numerics, DeterminantAndInverseInPlace) {
+    // b = | 4 7 |
+    //     | 2 6 |
+    float b[4] = {4, 2, 7, 6};
+    float det = 0;
+    m22determt(det, b);
+    EXPECT_EQ(det, 10.0f);
+    float c[4];
+    m22invert(c, b);
+    EXPECT_EQ(std::vector<float>(c, c + 4), (std::vector<float>{0.6f, -0.2f, -0.7f, 0.4f}));
+    m22invert(b, b);
+    EXPECT_EQ(std::vector<float>(b, b + 4), (std::vector<float>{0.6f, -0.2f, -0.7f, 0.4f}));
+    EXPECT_TRUE(screen().empty());
+}
+
+TEST_F(numerics, SingularMatrixStopsTheRun) {
+    float b[4] = {1, 2, 2, 4};
+    float c[4] = {9, 9, 9, 9};
+    type({""});  // STOP? the return key takes the advised way
+    EXPECT_THROW(m22invert(c, b), program_stop);
+    EXPECT_EQ(lines(0, 9), error_head_lines("    m22invert"));
+    EXPECT_EQ(screen()[9], " det(B) =        0.00    ");
+    EXPECT_EQ(screen()[10], " b(1,1) =        1.00     b(1,2) =        2.00    ");
+    EXPECT_EQ(screen()[11], " b(2,1) =        2.00     b(2,2) =        4.00    ");
+    EXPECT_EQ(screen()[12], " => Cannot Invert B");
+    EXPECT_GE(find(" UNRECOVERABLE ERROR ==> QUITTING ADVISED"), 0);
+    EXPECT_EQ(c[0], 9.0f);
+}
+
+TEST_F(numerics, ProductsMayOverwriteAnOperand) {
+    // b is 2 x 3, c is 3 x 2.
+    float b[6] = {1, 4, 2, 5, 3, 6};  // | 1 2 3 | / | 4 5 6 |
+    float c[6] = {7, 9, 11, 8, 10, 12};  // | 7 8 | 9 10 | 11 12 |
+    float a[4];
+    mnpxmpq(a, b, c, 2, 3, 2);
+    EXPECT_EQ(std::vector<float>(a, a + 4), (std::vector<float>{58, 139, 64, 154}));
+
+    // Square, result into the left operand.
+    float s[4] = {1, 3, 2, 4};  // | 1 2 | 3 4 |
+    float t[4] = {0, 1, 1, 0};  // swaps columns
+    mnpxmpq(s, s, t, 2, 2, 2);
+    EXPECT_EQ(std::vector<float>(s, s + 4), (std::vector<float>{2, 4, 1, 3}));
+    // And into the right one.
+    float u[4] = {1, 3, 2, 4};
+    mnpxmpq(t, u, t, 2, 2, 2);
+    EXPECT_EQ(std::vector<float>(t, t + 4), (std::vector<float>{2, 4, 1, 3}));
+
+    // Matrix times vector, the vector overwritten.
+    float m[9] = {1, 0, 0, 0, 0, 1, 0, -1, 0};  // rotation about x by 90 degrees
+    float v[3] = {1, 2, 3};
+    mnpxvp(v, m, v, 3, 3);
+    EXPECT_EQ(std::vector<float>(v, v + 3), (std::vector<float>{1, -3, 2}));
+
+    // No count, no change.
+    float keep[1] = {5};
+    mnpxvp(keep, m, v, 0, 3);
+    mnpxmpq(keep, b, c, 1, 0, 1);
+    EXPECT_EQ(keep[0], 5);
+}
+
+// ---------------------------------------------------------------------------
+// Straight line
+
+TEST_F(numerics, LineThroughPoints) {
+    std::vector<float> x{1000, 1001, 1002, 1003, 1004}, y;
+    for (float xi : x) y.push_back(-0.5f * xi + 600.0f);
+    float a1 = 0, b1 = 0;
+    lstsq1(a1, b1, x.data(), y.data(), 5);
+    EXPECT_FLOAT_EQ(a1, -0.5f);
+    EXPECT_NEAR(b1, 600.0f, 0.01f);
+
+    // Noisy points around y = 2x + 1 from a hand computation.
+    std::vector<float> xs{0, 1, 2, 3}, ys{1, 3.5f, 4.5f, 7};
+    lstsq1(a1, b1, xs.data(), ys.data(), 4);
+    EXPECT_FLOAT_EQ(a1, 1.9f);
+    EXPECT_FLOAT_EQ(b1, 1.15f);
+    EXPECT_TRUE(screen().empty());
+}
+
+TEST_F(numerics, EqualAbscissaeGiveTheSentinelSlope) {
+    std::vector<float> x{2, 2, 2}, y{1, 5, 9};
+    float a1 = 0, b1 = 7;
+    lstsq1(a1, b1, x.data(), y.data(), 3);
+    EXPECT_EQ(a1, 1.0e10f);
+    EXPECT_EQ(b1, 0.0f);
+    EXPECT_EQ(lines(0, 4), warning_head_lines("       lstsq1"));
+    EXPECT_EQ(lines(4, 15), (std::vector<std::string>{
+                                " sig(tt) = 0",
+                                "  t = x - xm",
+                                "  sig(x)  =            6.00000",
+                                "  sig(y)  =           15.00000",
+                                "  sig(tt) =            0.00000",
+                                "  sig(ty) =            0.00000",
+                                " Input parameters:",
+                                "  n    =      3",
+                                "  x(1) =            2.00000",
+                                "  y(1) =            1.00000",
+                                "  x(n) =            2.00000",
+                                "  y(n) =            9.00000",
+                                " ==> SETTING:",
+                                "  a1 =  10000000000.00000",
+                                "  b1 =            0.00000",
+                            }));
+}
+
+// ---------------------------------------------------------------------------
+// Index sort
+
+TEST_F(numerics, IndexSortLeavesTheValuesInPlace) {
+    std::vector<float> x{5, -1, 3.5f, 3.5f, 0, 12, -7, 2};
+    const std::vector<float> copy = x;
+    auto ind = sorted_index(x);
+    EXPECT_EQ(x, copy);
+    expect_sorted(x, ind);
+    EXPECT_EQ(ind[0], 7);
+    EXPECT_EQ(ind[7], 6);
+
+    // A larger pseudo-random set, with repeated values.
+    std::vector<float> r;
+    unsigned s = 12345;
+    for (int i = 0; i < 3000; ++i) {
+        s = s * 1103515245u + 12345u;
+        r.push_back(float((s >> 8) % 500) * 0.25f - 40.0f);
+    }
+    expect_sorted(r, sorted_index(r));
+
+    // Already sorted, and reversed.
+    std::vector<float> up(100), down(100);
+    for (int i = 0; i < 100; ++i) {
+        up[std::size_t(i)] = float(i);
+        down[std::size_t(i)] = float(100 - i);
+    }
+    expect_sorted(up, sorted_index(up));
+    auto d = sorted_index(down);
+    expect_sorted(down, d);
+    EXPECT_EQ(d[0], 100);
+}
+
+TEST_F(numerics, IndexSortEdgeCases) {
+    // Equal values: nothing lies above the mean, nothing moves.
+    std::vector<float> eq(6, 2.5f);
+    EXPECT_EQ(sorted_index(eq), (std::vector<int>{1, 2, 3, 4, 5, 6}));
+    EXPECT_EQ(sorted_index({42.0f}), std::vector<int>{1});
+    int keep[1] = {77};
+    float none[1] = {0};
+    ranind(0, none, keep);
+    EXPECT_EQ(keep[0], 77);
+    EXPECT_TRUE(screen().empty());
+}
+
+TEST_F(numerics, IndexSortStackOverflowStopsTheRun) {
+    // Each value so far above those before it that the mean of the
+    // smallest m values lies between the two largest of them: every pass
+    // splits off the largest value alone and pushes the rest.
+    std::vector<float> x{1.0e-37f};
+    float sum = x[0];
+    for (int m = 2; m <= 45; ++m) {
+        x.push_back(1.5f * (float(m) * x.back() - sum));
+        sum += x.back();
+    }
+    std::vector<int> ind(x.size());
+    EXPECT_THROW(ranind(int(x.size()), x.data(), ind.data()), program_stop);
+    ASSERT_GE(screen().size(), 2u);
+    EXPECT_EQ(screen()[0], " kx gt dim. de nx ");
+    EXPECT_EQ(screen()[1].size(), 2u + 20u * 6u);
+
+    // Forty levels are enough for fewer such values.
+    std::vector<float> y(x.begin(), x.begin() + 38);
+    std::reverse(y.begin(), y.end());
+    expect_sorted(y, sorted_index(y));
+}
