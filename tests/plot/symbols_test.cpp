@@ -1,0 +1,202 @@
+// Symbols and polygons as they come out in the plot file. The symbol centre
+// is the user point (0, 0) of subplot 1 at its defaults, 10 cm in and up:
+// (283.50, 283.50); the default symbol size 0.4 cm gives the radius 5.67.
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "plot/ghostscript.h"
+#include "plot/plot_session.h"
+#include "plot/symbols.h"
+
+namespace {
+
+using lines = std::vector<std::string>;
+
+lines operator+(lines a, const lines& b) {
+    a.insert(a.end(), b.begin(), b.end());
+    return a;
+}
+
+// One stroked path through the given points.
+lines path(std::initializer_list<std::string> pts, lines end = {"stroke"}) {
+    lines v{"newpath"};
+    v.insert(v.end(), pts.begin(), pts.end());
+    return v + end;
+}
+
+const lines HBAR = path({"277.83 283.50 moveto", "289.17 283.50 lineto"});
+const lines VBAR = path({"283.50 277.83 moveto", "283.50 289.17 lineto"});
+const lines DOT = path({"283.50 283.50 moveto", "283.50 283.50 lineto"});
+const std::initializer_list<std::string> DIAMOND = {"283.50 289.17 moveto", "277.83 283.50 lineto",
+                                                     "283.50 277.83 lineto", "289.17 283.50 lineto",
+                                                     "283.50 289.17 lineto"};
+
+class symbols : public plot_session {
+protected:
+    // The lines one symbol of the given type at (0, 0) writes.
+    lines symbol(int type) {
+        float x = 0, y = 0;
+        ssymboltype(type, 1);
+        skip_lines();
+        ussymbol(&x, &y, 1);
+        return new_lines();
+    }
+};
+
+}  // namespace
+
+TEST_F(symbols, ShapesOfEveryType) {
+    open_plot("shapes.ps");
+    EXPECT_EQ(symbol(4), path(DIAMOND));
+    EXPECT_EQ(symbol(-4), path(DIAMOND, {"closepath gsave", " 0.800  0.800  0.800 setrgbcolor fill grestore",
+                                         "stroke"}));
+    EXPECT_EQ(symbol(40), path({"287.51 287.51 moveto", "279.49 287.51 lineto", "279.49 279.49 lineto",
+                                "287.51 279.49 lineto", "287.51 287.51 lineto"}));
+    lines circle = symbol(1);
+    ASSERT_EQ(circle.size(), 22u);
+    EXPECT_EQ(circle[1], "289.17 283.50 moveto");
+    EXPECT_EQ(circle[6], "283.03 289.15 lineto");  // 5 steps of 18.95 degrees
+    EXPECT_EQ(circle[20], circle[1].substr(0, 14) + "lineto");
+    for (int other : {0, 2, 18, 19, 41, 1000}) EXPECT_EQ(symbol(other), circle) << other;
+    for (int t = 3; t <= 9; ++t) {
+        lines l = symbol(t);
+        ASSERT_EQ(l.size(), std::size_t(t + 3)) << t;
+        EXPECT_EQ(l[1], "283.50 289.17 moveto") << t;
+        EXPECT_EQ(l[std::size_t(t + 1)], "283.50 289.17 lineto") << t;
+    }
+    EXPECT_EQ(symbol(8)[2], "279.49 287.51 lineto");  // 135 degrees
+
+    EXPECT_EQ(symbol(11), HBAR);
+    EXPECT_EQ(symbol(12), VBAR);
+    EXPECT_EQ(symbol(13), HBAR + VBAR);
+    EXPECT_EQ(symbol(14), path({"287.51 287.51 moveto", "279.49 279.49 lineto"}) +
+                              path({"279.49 287.51 moveto", "287.51 279.49 lineto"}));
+    lines star = symbol(15);
+    EXPECT_EQ(count(star, "newpath"), 3);
+    EXPECT_EQ(lines(star.begin() + 4, star.begin() + 8), path({"283.50 289.17 moveto", "283.50 277.83 lineto"}));
+    lines spokes = symbol(17);
+    EXPECT_EQ(count(spokes, "283.50 283.50 moveto"), 5);
+    EXPECT_EQ(spokes[10], "283.50 289.17 lineto");  // the third, straight up
+    EXPECT_EQ(count(symbol(16), "283.50 283.50 moveto"), 3);
+
+    EXPECT_EQ(symbol(20), circle + DOT);
+    EXPECT_EQ(symbol(21), circle + HBAR);
+    EXPECT_EQ(symbol(22), circle + VBAR);
+    EXPECT_EQ(symbol(23), circle + VBAR + HBAR);
+    lines filled = symbol(-23);  // the bars on top are plain lines
+    ASSERT_EQ(filled.size(), 32u);
+    EXPECT_EQ(filled[21], "closepath gsave");
+    EXPECT_EQ(lines(filled.begin() + 24, filled.end()), VBAR + HBAR);
+
+    // Without fill a filled type differs from the hollow one by closepath.
+    int hollow = 0;
+    sfillstyle(hollow, 1);
+    EXPECT_EQ(symbol(-4), path(DIAMOND, {"closepath", "stroke"}));
+    close_plot();
+    EXPECT_GS_RENDERS("shapes.ps");
+}
+
+TEST_F(symbols, EachPointHasItsOwnPathsAndTheDotIgnoresTheSize) {
+    open_plot("points.ps");
+    float size = 4.0f;
+    ssymbolsize(size, 1);
+    int dot = 10;
+    ssymboltype(dot, 1);
+    float x[3] = {0, 1, 2}, y[3] = {0, 1, 0};
+    skip_lines();
+    ussymbol(x, y, 2);
+    EXPECT_EQ(new_lines(), DOT + path({"311.85 311.85 moveto", "311.85 311.85 lineto"}));
+    ussymbol(x, y, 0);
+    EXPECT_TRUE(new_lines().empty());
+
+    int circle = 1;
+    ssymboltype(circle, 1);
+    ussymbol(x, y, 3);
+    lines three = new_lines();
+    EXPECT_EQ(count(three, "newpath"), 3);
+    EXPECT_EQ(count(three, "396.90 283.50 moveto"), 1);  // 340.20 + 56.70
+    close_plot();
+    EXPECT_GS_RENDERS("points.ps");
+}
+
+TEST_F(symbols, PolygonsPast501PointsAreCutWithAWarning) {
+    open_plot("bigpoly.ps");
+    float xcm0 = 0, ycm0 = 0, xx = 1, xy = 0, yx = 0, yy = 1;
+    sus2cm1(xcm0, ycm0, xx, xy, yx, yy, 1);
+    std::vector<float> x(502), y(502);
+    for (int i = 1; i <= 502; ++i) {
+        x[std::size_t(i - 1)] = 0.2f * float(i % 50);
+        y[std::size_t(i - 1)] = 0.2f * float(i / 50);
+    }
+    skip_lines();
+    con.screen.clear();
+    uspolygon(x.data(), y.data(), 502);
+    lines body = new_lines();
+    EXPECT_EQ(count(body, "closepath gsave"), 2);
+    auto second = std::find(body.rbegin(), body.rend(), "newpath").base();  // points 501 and 502
+    ASSERT_LT(second + 2, body.end());
+    EXPECT_EQ(lines(second, second + 3), (lines{"5.67 56.70 moveto", "11.34 56.70 lineto", "closepath gsave"}));
+    EXPECT_EQ(count(con.screen, " Polygone vertices =      502"), 1);
+    EXPECT_EQ(count(con.screen, " Plot buffer size  =      501"), 1);
+    EXPECT_EQ(count(con.screen, " ==> Decomposing in smaller polygons"), 1);
+
+    uspolygon(x.data(), y.data(), 501);
+    EXPECT_EQ(count(new_lines(), "newpath"), 1);
+    EXPECT_EQ(count(con.screen, " ==> Decomposing in smaller polygons"), 1);
+    close_plot();
+    EXPECT_GS_RENDERS("bigpoly.ps");
+}
+
+// One page with every symbol type, hollow and filled, in colour, and a text
+// in every alignment; its picture is kept as symbols_page.png to look at.
+TEST_F(symbols, EverySymbolAndEveryAlignmentOnOnePage) {
+    open_plot("symbols_page.ps");
+    float xcm0 = 0, ycm0 = 0, xx = 1, xy = 0, yx = 0, yy = 1;
+    sus2cm1(xcm0, ycm0, xx, xy, yx, yy, 1);  // user units are cm
+    float size = 0.8f, textsize = 0.35f;
+    ssymbolsize(size, 1);
+    stextsize(textsize, 1);
+    cmtext2(2.0f, 28.0f, "ussymbol: type, hollow, filled (every type at 0.8 cm)");
+    const int types[] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 20, 21, 22, 23, 40, 19, 41};
+    for (int k = 0; k < 25; ++k) {
+        float xs[2] = {5.0f + 9.5f * float(k / 13), 6.5f + 9.5f * float(k / 13)};
+        float ys[2] = {26.5f - 1.5f * float(k % 13), 26.5f - 1.5f * float(k % 13)};
+        char label[16];
+        std::snprintf(label, sizeof label, "type %d", types[k]);
+        int just = -5, black = 1, line = k % 6 == 5 ? 12 : 2 + k % 6, fill = 13 + k % 6;
+        int hollow = types[k], filled = -types[k];
+        stextalign(just, 1);
+        cmtext2(xs[0] - 3.0f, ys[0], label);
+        slinecolor(line, 1);
+        sfillcolor(fill, 1);
+        ssymboltype(hollow, 1);
+        ussymbol(xs, ys, 1);
+        ssymboltype(filled, 1);
+        ussymbol(xs + 1, ys + 1, 1);
+        slinecolor(black, 1);
+    }
+
+    // A cross marks the point each text is aligned on.
+    int cross = 13, left = -1;
+    float small = 0.3f;
+    ssymboltype(cross, 1);
+    ssymbolsize(small, 1);
+    stextalign(left, 1);
+    cmtext2(2.0f, 6.3f, "stextalign: the cross is the given point");
+    const int justs[9] = {9, 10, 11, 5, 6, 7, 1, 2, 3};
+    for (int k = 0; k < 9; ++k) {
+        float xp = 4.0f + 6.0f * float(k % 3), yp = 5.0f - 1.5f * float(k / 3);
+        ussymbol(&xp, &yp, 1);
+        int j = justs[k], colour = 2 + k % 3;
+        stextalign(j, 1);
+        stextcolor(colour, 1);
+        char label[24];
+        std::snprintf(label, sizeof label, "just %d Text", j);
+        cmtext2(xp, yp, label);
+    }
+    close_plot();
+    gs_result r = gs_render("symbols_page.ps", "symbols_page.png", 100);
+    if (!r.available) GTEST_SKIP() << r.output;
+    EXPECT_TRUE(r.ok) << r.output;
+}
