@@ -2,6 +2,9 @@
 
 #include <cstdio>
 
+#include "math/angles.h"
+#include "plot/attributes.h"
+#include "plot/pages.h"
 #include "shell/cmdfile.h"
 #include "shell/console.h"
 #include "shell/format.h"
@@ -10,6 +13,8 @@
 #include "shell/sio.h"
 #include "shell/stop.h"
 #include "shell/units.h"
+#include "well/welldat.h"
+#include "well/wellpara.h"
 
 namespace {
 
@@ -32,6 +37,13 @@ void print_main_menu() {
     menu_line("set plot L/P,scaling,attributes,axes ..13");
     menu_line("set projection ........................14");
     menu_line("close plot file .......................20");
+    {
+        welldat_t& w = welldat;
+        int ilist = 0;
+        dat1astatus1("WELL", w.TYPWDNAM(w.itypwd).sv(), w.IDTYPWD(w.itypwd), w.finwd.sv(),
+                     w.titlewd.sv(), w.ndatwd, MAXDATWD, w.NAMVAR, w.nvarwd, MAXVARWD,
+                     w.JCOL.data(), w.NAMCOL, w.ncolwd, MAXCOLWD, ilist, 1);
+    }
     menu_line(DASHED);
     menu_line("WELL DATA COMMANDS");
     menu_line(DASHED);
@@ -55,11 +67,20 @@ void print_main_menu() {
 void tarnolix_main() {
     int ierr = 0;
     int command = 0;
+    int work = 0;
     // Carried from one use of command 5000 to the next; blank at first.
     fstr<20> cmdfile;
+    // The plot file's default name, kept and updated by plinit.
+    fstr<40> plotname;
 
     // Start-up: every subsystem to its defaults, in this order.
     initsio2(5);
+    trigoset();
+    plotname = "well.ps";
+    splotattributes(5);
+    swellparam(5);
+    wdtype(work, 5);
+    readwell2(5);
 
     for (;;) {
         mainmenuhead(PROGRAM_NAME, PROGRAM_VERSION, PROGRAM_DATE);
@@ -76,8 +97,13 @@ void tarnolix_main() {
 
         // Stage B: the plot file. It runs before stage C, so QUIT closes an
         // open plot file before it asks for confirmation.
+        if (command == 20) plend();
+        if ((command == 999 || command == 9999) && iocom.lplotopen) plend();
+        if (command == 10) plinit(plotname, 2);
 
         // Stage C: the well data commands and the end of the run.
+        if (command == 100) readwell2(2);
+        if (command == 110) swellparam(0);
         if (command == 9999) break;
         if (command == 999) {
             inintegdef(command, "999 to confirm quit", command, ierr);

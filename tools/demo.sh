@@ -7,8 +7,8 @@ bash tools/install_deps.sh
 cmake -S . -B build -G Ninja -DTARNOLIX_TESTS=OFF
 cmake --build build -j "$(nproc)"
 mkdir -p demo
-cp data/*.txt demo/ 2>/dev/null || true
+cp data/well*.txt demo/
 cd demo
-../build/tarnolix < ../data/demo.keys
+../build/tarnolix < ../data/main_job.keys
 echo
 echo "demo output is in $(pwd)"
