@@ -110,8 +110,8 @@ void banner() {
         "@               Quartos PS Library               @",
         "@          Version 10.2  on  2024-05-29          @",
         "@             Origins and credits :              @",
-        "@  PSPLOT pen plotter calls, J. Lemaire, 1987    @",
-        "@  QUARTOS PS device layer, P. Ardenne, 1996     @",
+        "@  PSPLOT pen plotter calls, its authors, 1987   @",
+        "@  QUARTOS PS device layer, its authors, 1996    @",
         "@                                                @",
     };
     for (const char* l : lines) writef(o, "(5(1x,a))", l);

@@ -6,6 +6,7 @@
 #include <sys/wait.h>
 
 #include "dialogue.h"
+#include "plot/ghostscript.h"
 #include "shell/main_program.h"
 
 namespace {
@@ -193,6 +194,60 @@ TEST_F(MainMenu, OutputLevelsComeBackOn) {
 TEST_F(MainMenu, KeyboardThatEndsEndsTheRun) {
     type({"999"});
     EXPECT_EQ(run(), 2);
+}
+
+// The plot file commands: 10 opens, 20 closes, QUIT closes before it asks.
+struct PlotCommands : MainMenu {
+    void SetUp() override {
+        MainMenu::SetUp();
+        std::remove("well.ps");
+        std::remove("other.ps");
+    }
+};
+
+TEST_F(PlotCommands, OpenAndCloseWellPs) {
+    // 10; return for default settings; return for the name "well.ps"; 20; return to close.
+    type({"10", "", "", "20", "", "9999"});
+    EXPECT_EQ(run(), 0);
+    EXPECT_GT(find(" Default = well.ps"), 0);
+    EXPECT_GT(find(" The PostScript plot file is closed"), 0);
+    EXPECT_FALSE(iocom.lplotopen);
+    EXPECT_GS_RENDERS("well.ps");
+}
+
+TEST_F(PlotCommands, CloseWithoutAnOpenFileWarns) {
+    type({"20", "", "9999"});
+    EXPECT_EQ(run(), 0);
+    int w = find(" The plot window or file is already closed");
+    ASSERT_GT(w, 4);
+    EXPECT_EQ(lines(w - 4, 4), warning_head_lines("  plend      "));
+}
+
+TEST_F(PlotCommands, QuitClosesTheFileBeforeItAsksAndDecliningLeavesItClosed) {
+    type({"10", "", "", "999", "", "0", "9999"});
+    EXPECT_EQ(run(), 0);
+    int closed = find(" The PostScript plot file is closed");
+    int confirm = find(" Enter 999 to confirm quit");
+    ASSERT_GT(closed, 0);
+    EXPECT_GT(confirm, closed);
+    // 9999 after declining finds no open file: nothing more is closed.
+    EXPECT_EQ(count(" The PostScript plot file is closed"), 1);
+    EXPECT_GS_RENDERS("well.ps");
+}
+
+TEST_F(PlotCommands, FastQuitClosesAnOpenFile) {
+    type({"10", "", "", "9999", ""});
+    EXPECT_EQ(run(), 0);
+    EXPECT_EQ(count(" The PostScript plot file is closed"), 1);
+    EXPECT_GS_RENDERS("well.ps");
+}
+
+TEST_F(PlotCommands, TheLastNameBecomesTheNextDefault) {
+    type({"10", "", "other.ps", "20", "", "10", "", "", "20", "", "9999"});
+    EXPECT_EQ(run(), 0);
+    EXPECT_EQ(count(" Default = well.ps"), 1);
+    EXPECT_EQ(count(" Default = other.ps"), 1);
+    EXPECT_GS_RENDERS("other.ps");
 }
 
 // The real program on the terminal: standard input that ends is the end.
