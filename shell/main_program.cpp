@@ -10,6 +10,7 @@
 #include "shell/format.h"
 #include "shell/frames.h"
 #include "shell/prompts.h"
+#include "shell/runinfo.h"
 #include "shell/sio.h"
 #include "shell/stop.h"
 #include "shell/units.h"
@@ -75,6 +76,11 @@ void tarnolix_main() {
 
     // Start-up: every subsystem to its defaults, in this order.
     initsio2(5);
+    smaininfo2(PROGRAM_NAME, PROGRAM_VERSION, PROGRAM_DATE);
+    progheadzk2();
+    // Plots and tables leave out user and host unless the user asks.
+    work = 2;
+    swpinfo(work, 1);
     trigoset();
     plotname = "well.ps";
     splotattributes(5);
@@ -90,6 +96,7 @@ void tarnolix_main() {
         // Stage A: settings that touch nothing else.
         switch (command) {
         case 1: writesio(iocom.isout); break;
+        case 2: swpinfo(work, 2); break;
         case 5000: altsio2(cmdfile, command, 0); break;
         case 5100: moutputn(0); break;
         default: break;
@@ -110,6 +117,7 @@ void tarnolix_main() {
             if (command == 999) break;
         }
     }
+    progtail2();
 }
 
 int run_engine() {

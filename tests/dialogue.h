@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <filesystem>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -16,7 +17,17 @@ struct Dialogue : ::testing::Test {
     memory_console con;
     console_scope scope{con};
 
+    std::filesystem::path home;
+
     void SetUp() override {
+        // Each test works in a directory of its own: tests run in parallel
+        // and the program writes its files in the current directory.
+        home = std::filesystem::current_path();
+        const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
+        std::filesystem::path dir = home / (std::string(info->test_suite_name()) + "." + info->name());
+        std::filesystem::remove_all(dir);
+        std::filesystem::create_directories(dir);
+        std::filesystem::current_path(dir);
         iocom = iocom_t{5, 6, 5, 6, 0, 0, false, false, true, {{true, true, false}}};
         units_reset();
     }
@@ -24,6 +35,7 @@ struct Dialogue : ::testing::Test {
         // A failed dialogue test shows the whole screen.
         if (HasFailure()) std::fprintf(stderr, "---- screen ----\n%s----\n", con.text().c_str());
         units_reset();
+        std::filesystem::current_path(home);
     }
 
     void type(std::initializer_list<std::string> lines) {

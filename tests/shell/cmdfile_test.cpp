@@ -5,22 +5,19 @@
 #include <fstream>
 
 #include "dialogue.h"
-#include "shell/main_program.h"
+#include "main_run.h"
 
 namespace {
 
-struct CommandFile : Dialogue {
+struct CommandFile : MainMenu {
     void write(const std::string& text) { std::ofstream("cmdfile_test.txt") << text; }
-    void TearDown() override {
-        Dialogue::TearDown();
-        std::remove("cmdfile_test.txt");
-    }
+
 };
 
 TEST_F(CommandFile, AnswersComeFromTheFileUntilItHandsBack) {
     write("1\n5000\n5002\n");
     type({"5000", "5001", "cmdfile_test.txt", "9999"});
-    EXPECT_EQ(run_engine(), 0);
+    EXPECT_EQ(run(), 0);
     EXPECT_GT(find(" Standard input redirected from"), 0);
     EXPECT_GT(find(" Level 2 standard output disabled"), 0);
     // Status while the file is open shows its unit and index.
@@ -40,13 +37,13 @@ TEST_F(CommandFile, AnswersComeFromTheFileUntilItHandsBack) {
 TEST_F(CommandFile, QuitFromTheFileEndsTheRunWithoutConfirmation) {
     write("5000\n5003\n");
     type({"5000", "5001", "cmdfile_test.txt"});
-    EXPECT_EQ(run_engine(), 0);
+    EXPECT_EQ(run(), 0);
     EXPECT_EQ(find(" Enter 999 to confirm quit"), -1);
 }
 
 TEST_F(CommandFile, ClosingWhenNoneIsOpenWarns) {
     type({"5000", "5002", "", "9999"});
-    EXPECT_EQ(run_engine(), 0);
+    EXPECT_EQ(run(), 0);
     int w = find(" NO OPEN COMMAND FILE");
     ASSERT_GT(w, 0);
     EXPECT_EQ(lines(w - 4, 4), warning_head_lines("    endaltsi2"));
@@ -56,7 +53,7 @@ TEST_F(CommandFile, ClosingWhenNoneIsOpenWarns) {
 TEST_F(CommandFile, AFileThatDoesNotOpenChangesNothing) {
     std::remove("cmdfile_test.txt");
     type({"5000", "5001", "cmdfile_test.txt", "", "0", "", "9999"});
-    EXPECT_EQ(run_engine(), 0);
+    EXPECT_EQ(run(), 0);
     EXPECT_GT(find(" COULD NOT OPEN COMMAND FILE cmdfile_test.txt"), 0);
     EXPECT_FALSE(iocom.lcmdopen);
     EXPECT_EQ(iocom.isin, 5);
@@ -65,7 +62,7 @@ TEST_F(CommandFile, AFileThatDoesNotOpenChangesNothing) {
 TEST_F(CommandFile, StartingASecondFileFromInsideAFileWarns) {
     write("5000\n5001\n5000\n5002\n");
     type({"5000", "5001", "cmdfile_test.txt", "", "9999"});
-    EXPECT_EQ(run_engine(), 0);
+    EXPECT_EQ(run(), 0);
     EXPECT_GT(find(" COMMAND FILE ALREADY OPEN"), 0);
     EXPECT_GT(find(" ===> HIT RETURN TO RESUME COMMANDS"), 0);
     EXPECT_EQ(count(" Enter alternate standard input file name"), 1);
@@ -74,7 +71,7 @@ TEST_F(CommandFile, StartingASecondFileFromInsideAFileWarns) {
 TEST_F(CommandFile, AFileThatRunsOutKeepsAskingUntilTheKeyboardEnds) {
     write("1\n");
     type({"5000", "5001", "cmdfile_test.txt", "", ""});
-    EXPECT_EQ(run_engine(), 2);
+    EXPECT_EQ(run(), 2);
     EXPECT_EQ(count(" could not read your choice"), 3);
 }
 

@@ -8,17 +8,11 @@
 #include "dialogue.h"
 #include "plot/ghostscript.h"
 #include "shell/main_program.h"
+#include "main_run.h"
 
 namespace {
 
-const std::string AT50 = " " + std::string(50, '@');
-const std::string HEAD = " @ main program tarnolix           v12.3 2024-09-14";
-const std::string HEAD_RULE = " @" + std::string(49, '=');
 
-struct MainMenu : Dialogue {
-    int run() { return run_engine(); }
-    int passes() const { return count(HEAD); }
-};
 
 TEST_F(MainMenu, ShowsTheMenuAndFastQuitEndsWithoutAQuestion) {
     type({"9999"});
@@ -66,7 +60,8 @@ TEST_F(MainMenu, ShowsTheMenuAndFastQuitEndsWithoutAQuestion) {
         " ..........................................",
     };
     EXPECT_EQ(lines(w, int(rest.size())), rest);
-    EXPECT_EQ(int(screen().size()), w + int(rest.size()));
+    // Then straight to the end report.
+    EXPECT_EQ(end_report(), w + int(rest.size()) + 1);
     EXPECT_EQ(find(" 999 to confirm quit"), -1);
 }
 
@@ -84,6 +79,7 @@ TEST_F(MainMenu, QuitAsksForConfirmationAndReturnConfirms) {
     };
     EXPECT_EQ(lines(e, 5), confirm);
     EXPECT_EQ(passes(), 1);
+    EXPECT_EQ(end_report(), e + 6);
 }
 
 TEST_F(MainMenu, DeclinedQuitGoesOnAndIsNotDispatched) {
@@ -178,7 +174,7 @@ TEST_F(MainMenu, OutputLevelTwoOffHidesMenusAndDottedLines) {
                            }));
     EXPECT_GT(find(" |  2  |   F   |................ 2"), q);
     // The last pass: head, then straight to the prompt without dots or menu.
-    int last = int(screen().size()) - 5;
+    int last = end_report() - 6;
     EXPECT_EQ(lines(last, 5), (std::vector<std::string>{AT50, HEAD, HEAD_RULE,
                                                        " Enter your choice",
                                                        " New value =          9999"}));
@@ -191,9 +187,26 @@ TEST_F(MainMenu, OutputLevelsComeBackOn) {
     EXPECT_EQ(count(" FAST QUIT............................9999"), 2);
 }
 
-TEST_F(MainMenu, KeyboardThatEndsEndsTheRun) {
+TEST_F(MainMenu, KeyboardThatEndsEndsTheRunWithoutEndReport) {
     type({"999"});
     EXPECT_EQ(run(), 2);
+    EXPECT_EQ(end_report(), -1);
+}
+
+TEST_F(MainMenu, StartsWithTheBannerAndLeavesNoTemporaryFile) {
+    type({"9999"});
+    EXPECT_EQ(run(), 0);
+    // The banner comes before the first menu and waited for one return.
+    EXPECT_LT(find(" @" + std::string(9, ' ') + "https://github.com/tarnolix/tarnolix"), find(HEAD));
+    EXPECT_FALSE(std::filesystem::exists("sys_version_tmp_001.txt"));
+    EXPECT_FALSE(std::filesystem::exists("cpu_info_tmp_001.txt"));
+    EXPECT_EQ(fake.commands.size(), 4u);
+}
+
+TEST_F(MainMenu, RunInfoCommandShowsItsMenu) {
+    type({"2", "0", "9999"});
+    EXPECT_EQ(run(), 0);
+    EXPECT_GT(find(" date+user+host+os+hardw+main+subr+cmnd...0"), 0);
 }
 
 // The plot file commands: 10 opens, 20 closes, QUIT closes before it asks.

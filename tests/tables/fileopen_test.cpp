@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 
 #include "dialogue.h"
@@ -13,7 +14,9 @@ namespace {
 struct FileOpen : Dialogue {
     void SetUp() override {
         Dialogue::SetUp();
+        std::filesystem::create_directory("sub");
         std::ofstream("fileopen_present.txt") << "x\n";
+        std::ofstream("sub/fileopen_present.txt") << "x\n";
         std::remove("fileopen_missing.txt");
     }
     void TearDown() override {
@@ -25,7 +28,7 @@ using Lines = std::vector<std::string>;
 
 TEST_F(FileOpen, OpensTheTypedNameAndKeepsItsBaseName) {
     fstr<40> name = "fileopen_missing.txt";
-    type({"../work/fileopen_present.txt"});
+    type({"sub/fileopen_present.txt"});
     int e = -1;
     opef1(name, "data                ", 12, "old", "read", 0, -1, e);
     EXPECT_EQ(e, 0);
