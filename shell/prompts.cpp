@@ -136,6 +136,25 @@ void out_of_range_real(std::string_view t, float v, float vmin, float vmax) {
     errortail00();
 }
 
+// Reads an answer that may take the default into v. False, after the error
+// frame, when the answer can't be read.
+template <class T>
+bool read_defaulted(T& v, T def, const version_block& vb, std::string_view t, std::string& buf) {
+    if (!read_buffer(buf, 20)) {
+        could_not_read(vb, t);
+        return false;
+    }
+    if (takes_default(buf)) {
+        v = def;
+        return true;
+    }
+    if (!readlist_str(buf, v)) {
+        could_not_read(vb, t);
+        return false;
+    }
+    return true;
+}
+
 // The integer prompts share one cycle; they differ in default and range.
 void integer_prompt(int& value, std::string_view text, const int* def, const int* vmin,
                     const int* vmax, const version_block& vb) {
@@ -149,16 +168,7 @@ void integer_prompt(int& value, std::string_view text, const int* def, const int
         int v = value;
         if (def) {
             default_line_int(defv);
-            if (!read_buffer(buf, 20)) {
-                could_not_read(vb, t);
-                continue;
-            }
-            if (takes_default(buf)) {
-                v = defv;
-            } else if (!readlist_str(buf, v)) {
-                could_not_read(vb, t);
-                continue;
-            }
+            if (!read_defaulted(v, defv, vb, t, buf)) continue;
         } else if (!readlist(iocom.isin, v)) {
             could_not_read(vb, t);
             continue;
@@ -207,16 +217,7 @@ void inrealdef(float& value, std::string_view text, float def, int& ierr) {
             writef(iocom.isout, "(1x,a,1x,g12.6)", "Default =", def);
         }
         float v = value;
-        if (!read_buffer(buf, 20)) {
-            could_not_read(VB_INREALDEF, t);
-            continue;
-        }
-        if (takes_default(buf)) {
-            v = def;
-        } else if (!readlist_str(buf, v)) {
-            could_not_read(VB_INREALDEF, t);
-            continue;
-        }
+        if (!read_defaulted(v, def, VB_INREALDEF, t, buf)) continue;
         value = v;
         echo_real(value);
         return;
@@ -234,16 +235,7 @@ void inrealvindef(float& value, std::string_view text, float def, float vmin, fl
         real_range_line("inside  [", vmin, vmax);
         real_default_line(value, def, vmin, vmax);
         float v = value;
-        if (!read_buffer(buf, 20)) {
-            could_not_read(VB_INREALVINDEF, t);
-            continue;
-        }
-        if (takes_default(buf)) {
-            v = def;
-        } else if (!readlist_str(buf, v)) {
-            could_not_read(VB_INREALVINDEF, t);
-            continue;
-        }
+        if (!read_defaulted(v, def, VB_INREALVINDEF, t, buf)) continue;
         // NaN passes no comparison: it is outside any range.
         if (!(v >= vmin && v <= vmax)) {
             out_of_range_real(t, v, vmin, vmax);
