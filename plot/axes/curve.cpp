@@ -1,0 +1,72 @@
+#include "plot/axes/curve.h"
+
+#include "shell/format.h"
+#include "shell/frames.h"
+#include "shell/prompts.h"
+#include "shell/sio.h"
+
+cc2dbuff_t cc2dbuff;
+ptblock_t ptblock;
+
+namespace {
+
+constexpr version_block VB_SCPTNP{"scptnp     ", " 1.2", "2015-11-16"};
+
+void int_line(std::string_view a, int v) { writef(iocom.isout, "(1x,a,1x,i6)", a, v); }
+
+}  // namespace
+
+void scptnp(int& npcurve, const int& inter) {
+    const version_block& vb = VB_SCPTNP;
+    if (inter == 2 || inter == 3) npcurve = ptblock.npcurve;
+    if (inter == 4 || inter == 5) {
+        npcurve = 11;
+        submenuhead(vb);
+        int_line("INITIALIZING NUMBER OF POINTS TO:", npcurve);
+    }
+    if (inter % 2 == 0) {
+        for (;;) {
+            submenuhead(vb);
+            if (iocom.LWITO(2)) {
+                textline(DASHED);
+                textline("RUNNING POINT PARAMETERS:                  ");
+                textline(DASHED);
+                int_line("max nb of points ................", NCURVEMAX);
+                int_line("nb of points ..................10", npcurve);
+                int_line("nb of segments ..................", npcurve - 1);
+                textline(DASHED);
+                textline("EXIT ..........................99");
+            }
+            menutail();
+            int choice = 99, ierr = 0;
+            inintegdef(choice, "your choice", 99, ierr);
+            if (choice == 99) break;
+            if (choice == 10) inintegvindef(npcurve, "nb of pts per curve", npcurve, 1, NCURVEMAX, ierr);
+        }
+    }
+
+    if (npcurve > NCURVEMAX) {
+        warninghead(vb);
+        int_line("nb of points =", npcurve);
+        int_line("> curve buffer size =", NCURVEMAX);
+        npcurve = NCURVEMAX;
+        int_line("===> reset nb of points =", npcurve);
+        textline("===> WILL NOT PLOT ALL THE DATA");
+        warningtail00();
+    } else if (npcurve == 1 && inter != 6 && inter != 7) {
+        warninghead(vb);
+        int_line("nb of points =", npcurve);
+        textline("===> WILL PLOT ONLY ONE POINT");
+        warningtail00();
+    } else if (npcurve < 1) {
+        // A count below one comes from a caller's bounds and increment.
+        errorhead(vb);
+        int_line("nb of points np =", npcurve);
+        textline("===> UPSTREAM PROBLEM ?");
+        textline("Increment inconsistent with bounds ?");
+        npcurve = 1;
+        int_line("===> RESETTING np =", npcurve);
+        errortail00();
+    }
+    ptblock.npcurve = npcurve;
+}

@@ -1,0 +1,335 @@
+// Setting up axes, the box and the curve point count: defaults, checks,
+// refusals and menus, seen in the records and on the screen.
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "plot/axes/axes.h"
+#include "plot/axes/curve.h"
+#include "plot/plot_session.h"
+
+namespace {
+
+using lines = std::vector<std::string>;
+
+const std::string RULE43 = " " + std::string(43, '-');
+const std::string RULE35 = " " + std::string(35, '-');
+const std::string HEAD_S1AXIS1 = " @ subroutine s1axis1               v3.1 2012-05-09";
+const std::string HEAD_S1AXUSWDTYP = " @ subroutine s1axuswdtyp           v1.1 2012-05-09";
+
+// The name line of an error frame.
+std::string error_name(const std::string& name13) { return " ***          subroutine " + name13 + "          ***"; }
+
+class axis_setup : public plot_session {
+protected:
+    void SetUp() override {
+        plot_session::SetUp();
+        axisblk7a = axisblk7a_t{};
+        axisblk7b = axisblk7b_t{};
+        ptblock = ptblock_t{};
+        snaxis(5);
+        con.screen.clear();
+    }
+    void TearDown() override {
+        if (HasFailure()) std::fprintf(stderr, "---- screen ----\n%s----\n", con.text().c_str());
+        plot_session::TearDown();
+    }
+    void press(std::initializer_list<std::string> keys) {
+        for (const auto& k : keys) con.type(k);
+    }
+    int at(const std::string& s, int from = 0) const {
+        for (int k = from; k < int(con.screen.size()); ++k)
+            if (con.screen[std::size_t(k)] == s) return k;
+        return -1;
+    }
+    // n screen lines from the first one equal to s.
+    lines from(const std::string& s, int n) const {
+        const int k = at(s);
+        if (k < 0 || k + n > int(con.screen.size())) return {};
+        return lines(con.screen.begin() + k, con.screen.begin() + k + n);
+    }
+};
+
+// One axis as callers pass it to s1axis1.
+struct axis_args {
+    float usa1 = 0, usa2 = 0, wau1 = 0, wau2 = 0, waud = 0, walas = 0;
+    fstr<30> walab;
+    int nawdig = 0, nasubint = 0, nlabintk = 0;
+    void set(int iaxis, int inter) {
+        s1axis1(usa1, usa2, wau1, wau2, waud, walas, walab, nawdig, nasubint, nlabintk, iaxis, inter);
+    }
+};
+
+// The box as callers pass it to s1bx2d.
+struct box_args {
+    int ix = 0, iy = 0, left = 0, right = 0, bottom = 0, top = 0, clip = 0, zero = 0;
+    fstr<25> label;
+    void set(int ibox, int inter) { s1bx2d(ix, iy, left, right, bottom, top, clip, zero, label, ibox, inter); }
+};
+
+}  // namespace
+
+TEST_F(axis_setup, DefaultsBoundsAndRefusedAxisNumbers) {
+    for (int i : {1, 15}) {
+        EXPECT_EQ(axisblk7a.USA2(i) + axisblk7a.WAU2(i) + axisblk7a.WAUD(i), 25.0f);
+        EXPECT_EQ(axisblk7a.USA1(i) + axisblk7a.WAU1(i), 0.0f);
+        EXPECT_EQ(axisblk7a.WALAS(i), 0.5f);
+        EXPECT_EQ(axisblk7a.WAOUS(i), 1.0f);
+        EXPECT_EQ(axisblk7a.NASUBINT(i) * 10 + axisblk7a.NLABINTK(i), 51);
+        EXPECT_EQ(axisblk7a.NAWDIG(i) + axisblk7a.IUSWDTYP(i), 0);
+        EXPECT_EQ(axisblk7b.WALAB(i).sv(), "Generic 0-10 axis             ");
+    }
+    axis_args a;
+    a.set(7, 3);
+    a.usa1 = -3, a.usa2 = 250;
+    a.set(7, 1);
+    float u1 = 1, u2 = 2;
+    g1axbd(u1, u2, 7);
+    EXPECT_EQ(u1, -3.0f);
+    EXPECT_EQ(u2, 250.0f);
+    g1axbd(u1, u2, 16);
+    EXPECT_EQ(u1, 0.0f);
+    EXPECT_EQ(u2, 10.0f);
+    EXPECT_EQ(from(" trying to get bounds of axis nb =     16", 3),
+              (lines{" trying to get bounds of axis nb =     16", " max axis nb =     15", " ===> RETURNING [0, 10]"}));
+    EXPECT_TRUE(screen_has(error_name("  g1axbd     ")));
+
+    con.screen.clear();
+    a.wau1 = 99;
+    int link = 1;
+    float scale = 2;
+    for (int bad : {0, 16}) {
+        a.set(bad, 1);
+        s1axuswdtyp(link, scale, bad, 1);
+    }
+    EXPECT_EQ(count(con.screen, " trying to set axis nb =      0"), 2);
+    EXPECT_EQ(count(con.screen, " trying to set axis nb =     16"), 2);
+    EXPECT_EQ(count(con.screen, " ===> NO ACTION"), 4);
+    EXPECT_TRUE(screen_has(error_name("  s1axis1    ")));
+    EXPECT_TRUE(screen_has(error_name("  s1axuswdtyp")));
+    for (int i = 1; i <= MAXAXIS; ++i) EXPECT_EQ(axisblk7a.WAU1(i) + axisblk7a.IUSWDTYP(i), 0.0f) << i;
+
+    a.set(7, 5);
+    EXPECT_TRUE(screen_has(" INITIALIZING AXIS NB   7"));
+    EXPECT_EQ(axisblk7a.USA2(7), 10.0f);
+}
+
+TEST_F(axis_setup, IncrementIsCheckedAndTheUserRangeFollowsTheLink) {
+    axis_args a;
+    a.set(2, 3);
+    a.wau1 = 10, a.wau2 = 0, a.waud = 5, a.usa1 = 100, a.usa2 = 200;
+    a.set(2, 1);
+    EXPECT_EQ(a.waud, -5.0f);
+    EXPECT_EQ(axisblk7a.WAUD(2), -5.0f);
+    EXPECT_EQ(axisblk7a.USA1(2), 100.0f);  // independent: kept as given
+    EXPECT_EQ(from(" Inconsistent annotation increment:", 5),
+              (lines{" Inconsistent annotation increment:", " initial value      =   10.000    ",
+                     " final   value      =   0.0000    ", " increment          =   5.0000    ",
+                     " => RESET increment =  -5.0000    "}));
+    a.wau1 = 0, a.wau2 = 8, a.waud = 0;
+    a.set(2, 1);
+    EXPECT_EQ(axisblk7a.WAUD(2), 4.0f);
+    con.screen.clear();
+    a.wau1 = 10, a.wau2 = 0, a.waud = -2;
+    a.set(2, 1);
+    EXPECT_TRUE(con.screen.empty());
+
+    int link = 1;
+    float scale = 1;
+    s1axuswdtyp(link, scale, 2, 1);
+    a.set(2, 1);
+    EXPECT_EQ(axisblk7a.USA1(2), 10.0f);
+    EXPECT_EQ(axisblk7a.USA2(2), 0.0f);
+    // The scaled link can't be set by a caller, only through the menu.
+    link = 2;
+    s1axuswdtyp(link, scale, 2, 1);
+    EXPECT_EQ(axisblk7a.IUSWDTYP(2), 0);
+    EXPECT_EQ(from(" trying to set us/wd type =      2", 3),
+              (lines{" trying to set us/wd type =      2", " UNKNOWN TYPE", " ==> RESET TYPE =      0"}));
+    press({"10", "2", "20", "2.5", "99"});
+    s1axuswdtyp(link, scale, 2, 0);
+    EXPECT_EQ(axisblk7a.IUSWDTYP(2), 2);
+    EXPECT_EQ(axisblk7a.WAOUS(2), 2.5f);
+    a.wau1 = 0, a.wau2 = 10, a.waud = 5;
+    a.set(2, 1);
+    EXPECT_EQ(axisblk7a.USA2(2), 4.0f);
+    EXPECT_TRUE(con.keys.empty());
+}
+
+TEST_F(axis_setup, AxisMenusShowTheirPanelsAndStoreTheAnswers) {
+    press({"20", "-10", "21", "10", "22", "4", "23", "0.4", "24", "1", "25", "2", "26", "Depth (m)", "27", "3",
+           "1", "-1", "2", "1", "99"});
+    axis_args a;
+    a.set(3, 2);
+    EXPECT_EQ(con.screen[1], HEAD_S1AXIS1);
+    EXPECT_EQ(lines(con.screen.begin() + 3, con.screen.begin() + 21),
+              (lines{" Sizes:", " max nb of axis    =     15", " axis label length =     30",
+                     " SETTING UP AXIS #      3", " user space:", " initial value ....................1   0.0000    ",
+                     " final   value ....................2   10.000    ", " annotation:",
+                     " initial value ...................20   0.0000    ",
+                     " final   value ...................21   10.000    ",
+                     " increment .......................22   5.0000    ",
+                     " size in cm ......................23  0.50000    ",
+                     " nb of digits after dec. point ...24      0", " nb of subtics intervals..........25      5",
+                     " axis label ......................26 Generic 0-10 axis             ",
+                     " nb of tics intervals for label ..27      1", " EXIT.............................99",
+                     " " + std::string(50, '@')}));
+    EXPECT_TRUE(screen_has(" Enter annotation increment"));
+    EXPECT_TRUE(con.keys.empty());
+    EXPECT_EQ(axisblk7a.WAU1(3) + axisblk7a.WAU2(3), 0.0f);
+    EXPECT_EQ(axisblk7a.WAUD(3), 4.0f);
+    EXPECT_EQ(axisblk7a.WALAS(3), 0.4f);
+    EXPECT_EQ(axisblk7a.NAWDIG(3) * 100 + axisblk7a.NASUBINT(3) * 10 + axisblk7a.NLABINTK(3), 123);
+    EXPECT_EQ(axisblk7b.WALAB(3).sv(), "Depth (m)                     ");
+    EXPECT_EQ(axisblk7a.USA1(3), -1.0f);
+    EXPECT_EQ(axisblk7a.USA2(3), 1.0f);
+
+    // An inconsistent increment brings the menu back after the warning.
+    con.screen.clear();
+    press({"22", "-4", "99", "99"});
+    a.set(3, 2);
+    EXPECT_TRUE(con.keys.empty());
+    EXPECT_EQ(count(con.screen, " EXIT.............................99"), 3);
+    EXPECT_GT(at(" EXIT.............................99", at(" => RESET increment =   4.0000    ")), 0);
+
+    // s1axis: no line 27, and the stored interval stays.
+    con.screen.clear();
+    press({"27", "21", "7", "99"});
+    float u1 = 0, u2 = 0, w1 = 0, w2 = 0, wd = 0, ws = 0;
+    fstr<30> lab;
+    int nd = 0, ns = 0;
+    s1axis(u1, u2, w1, w2, wd, ws, lab, nd, ns, 3, 2);
+    EXPECT_TRUE(screen_has(" @ subroutine s1axis                v3.1 2012-05-09"));
+    EXPECT_FALSE(screen_has(" nb of tics intervals for label ..27      3"));
+    EXPECT_EQ(axisblk7a.WAU2(3), 7.0f);
+    s1axis(u1, u2, w1, w2, wd, ws, lab, nd, ns, 3, 5);
+    EXPECT_EQ(axisblk7a.NLABINTK(3), 3);
+
+    // The link menu; a zero scale given there is reset at the next pass.
+    // With the link 1 the user lines of s1axis1 give way to one line.
+    con.screen.clear();
+    int link = 0;
+    float scale = 0;
+    press({"20", "0", "10", "1", "99", "1", "99"});
+    s1axuswdtyp(link, scale, 3, 2);
+    a.set(3, 2);
+    EXPECT_EQ(lines(con.screen.begin() + 3, con.screen.begin() + 11),
+              (lines{" SETTING UP AXIS #      3", " max nb of axis    =     15", RULE43,
+                     " user space and annotations independent", " user space versus annotations ...10      0",
+                     " annotations/user scaling  .......20   1.0000    ", RULE43, " EXIT.............................99"}));
+    EXPECT_EQ(count(con.screen, " ==> RESET SCALING =   1.0000    "), 1);
+    EXPECT_TRUE(screen_has(" annotation = user * scale ........2"));
+    EXPECT_TRUE(screen_has(" user space = annotation"));
+    EXPECT_FALSE(screen_has(" Enter user initial value"));
+    EXPECT_EQ(axisblk7a.IUSWDTYP(3), 1);
+    EXPECT_EQ(axisblk7a.WAOUS(3), 1.0f);
+}
+
+TEST_F(axis_setup, AxisListMenuGoesToOneAxisOrThroughAll) {
+    axis_args a;
+    a.set(2, 3);
+    a.walab = "Azimuth [90] degrees from north";
+    a.set(2, 1);
+    press({"2", "99", "99"});
+    snaxis(0);
+    EXPECT_EQ(from(" AXIS SET UP", 6), (lines{" AXIS SET UP", RULE43, " axis label                  axis nb", RULE35,
+                                             " Generic 0-10 axis    ............ 1",
+                                             " Azimuth [90] degrees ............ 2"}));
+    EXPECT_EQ(con.screen[std::size_t(at(" AXIS SET UP") + 20)], " Go through all axes.............100");
+    EXPECT_TRUE(screen_has(" SETTING UP AXIS #      2"));
+    EXPECT_FALSE(screen_has(HEAD_S1AXUSWDTYP));
+
+    // From 10 on, the link of the axis comes first.
+    con.screen.clear();
+    press({"6", "99", "99", "99"});
+    snaxis(10);
+    EXPECT_GT(at(HEAD_S1AXIS1), at(HEAD_S1AXUSWDTYP));
+    EXPECT_GE(at(HEAD_S1AXUSWDTYP), 0);
+
+    con.screen.clear();
+    press({"100"});
+    for (int i = 0; i <= MAXAXIS; ++i) con.type("99");
+    snaxis(2);
+    EXPECT_TRUE(con.keys.empty());
+    EXPECT_EQ(count(con.screen, HEAD_S1AXIS1), 15);
+}
+
+TEST_F(axis_setup, BoxDefaultsRefusalsResetsAndMenu) {
+    box_args b;
+    b.set(1, 5);
+    EXPECT_TRUE(screen_has(" INITIALIZING BOX NB   1"));
+    EXPECT_EQ(axisblk7a.ixaxisbx * 10 + axisblk7a.iyaxisbx, 12);
+    EXPECT_EQ(axisblk7a.iclipbx + axisblk7a.izerobx, 0);
+    for (int e = 1; e <= 4; ++e) EXPECT_EQ(axisblk7a.IBBORDER(e), 1);
+    EXPECT_EQ(axisblk7b.walabbx.sv(), "Generic box              ");
+
+    b.ix = 9;
+    b.set(2, 1);
+    EXPECT_EQ(from(" trying to set box nb =      2", 3),
+              (lines{" trying to set box nb =      2", " max box nb =      1", " ===> NO ACTION"}));
+    EXPECT_EQ(axisblk7a.ixaxisbx, 1);
+
+    box_args c{0, 16, 1, 0, 1, 1, 0, 1, fstr<25>("log plot")};
+    c.set(1, 1);
+    EXPECT_EQ(c.ix * 10 + c.iy, 12);
+    EXPECT_EQ(from(" trying to set axis nb =     16", 3),
+              (lines{" trying to set axis nb =     16", " max axis nb =     15", " ==> RESET axis nb =      2"}));
+    box_args d;
+    d.set(1, 3);
+    EXPECT_EQ(d.left * 1000 + d.right * 100 + d.zero * 10 + d.clip, 1010);
+    EXPECT_EQ(d.label.sv(), "log plot                 ");
+
+    con.screen.clear();
+    press({"10", "4", "33", "0", "3", "40", "1", "50", "0", "60", "Depth track", "21", "99", "99"});
+    d.set(1, 2);
+    EXPECT_TRUE(con.keys.empty());
+    EXPECT_EQ(lines(con.screen.begin() + 3, con.screen.begin() + 7),
+              (lines{" SETTING BOX #      1", RULE43, " X axis label: Generic 0-10 axis             ",
+                     " X axis nb........................10      1"}));
+    EXPECT_TRUE(screen_has(" right ...........................31      0"));
+    EXPECT_TRUE(screen_has(" Box label   : log plot                 "));
+    EXPECT_TRUE(screen_has(" X=0 & Y=0 mark line .............50      1"));
+    EXPECT_TRUE(screen_has(" Available axes:"));
+    EXPECT_TRUE(screen_has(" nothing...........................5"));
+    EXPECT_TRUE(screen_has(" outside [1,5]"));  // 0 isn't offered
+    EXPECT_TRUE(screen_has(" SETTING UP AXIS #      2"));
+    EXPECT_EQ(axisblk7a.ixaxisbx, 4);
+    EXPECT_EQ(axisblk7a.IBBORDER(4), 3);
+    EXPECT_EQ(axisblk7a.iclipbx * 10 + axisblk7a.izerobx, 10);
+    EXPECT_EQ(axisblk7b.walabbx.sv(), "Depth track              ");
+}
+
+TEST_F(axis_setup, CurvePointCountIsKeptInsideTheBuffer) {
+    int np = 0;
+    scptnp(np, 5);
+    EXPECT_EQ(ptblock.npcurve, 11);
+    EXPECT_TRUE(screen_has(" INITIALIZING NUMBER OF POINTS TO:     11"));
+    np = 2000;
+    scptnp(np, 1);
+    EXPECT_EQ(ptblock.npcurve, 1000);
+    EXPECT_EQ(from(" nb of points =   2000", 4),
+              (lines{" nb of points =   2000", " > curve buffer size =   1000", " ===> reset nb of points =   1000",
+                     " ===> WILL NOT PLOT ALL THE DATA"}));
+    con.screen.clear();
+    np = 1;
+    scptnp(np, 7);
+    EXPECT_TRUE(con.screen.empty());
+    scptnp(np, 1);
+    EXPECT_TRUE(screen_has(" ===> WILL PLOT ONLY ONE POINT"));
+    np = 0;
+    scptnp(np, 1);
+    EXPECT_EQ(np, 1);
+    EXPECT_EQ(from(" nb of points np =      0", 4),
+              (lines{" nb of points np =      0", " ===> UPSTREAM PROBLEM ?", " Increment inconsistent with bounds ?",
+                     " ===> RESETTING np =      1"}));
+
+    con.screen.clear();
+    np = 90;
+    press({"10", "1001", "45", "99"});
+    scptnp(np, 0);
+    EXPECT_TRUE(con.keys.empty());
+    EXPECT_EQ(from(" max nb of points ................   1000", 3),
+              (lines{" max nb of points ................   1000", " nb of points ..................10     90",
+                     " nb of segments ..................     89"}));
+    EXPECT_EQ(ptblock.npcurve, 45);
+}
