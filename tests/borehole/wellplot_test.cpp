@@ -1,0 +1,266 @@
+// Log layouts: where each subplot stands on the page, the axis set
+// defaults, the box a track gets from slogbox, and the layout menu.
+#include <algorithm>
+#include <fstream>
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+#include "borehole/wellplot.h"
+#include "plot/axes/axes.h"
+#include "plot/ghostscript.h"
+#include "plot/plot_session.h"
+
+namespace {
+
+using lines = std::vector<std::string>;
+
+// A subplot's box on the paper, cm.
+struct box {
+    float x, y, w, h;
+};
+box boxof(int n) {
+    const plt1blk_t& p = plt1blk;
+    return {p.USMINTOCM(1, n), p.USMINTOCM(2, n), p.CMAXLENGTH(1, n), p.CMAXLENGTH(2, n)};
+}
+#define EXPECT_BOX(n, X, Y, W, H)                 \
+    do {                                          \
+        const box b_ = boxof(n);                  \
+        EXPECT_FLOAT_EQ(b_.x, X) << "subplot " << n; \
+        EXPECT_FLOAT_EQ(b_.y, Y) << "subplot " << n; \
+        EXPECT_FLOAT_EQ(b_.w, W) << "subplot " << n; \
+        EXPECT_FLOAT_EQ(b_.h, H) << "subplot " << n; \
+    } while (0)
+
+// The strings drawn, as they stand in the plot file.
+lines strings(const lines& file) {
+    lines v;
+    for (const auto& l : file) {
+        if (l.empty() || l.front() != '(') continue;
+        const auto e = l.rfind(')');
+        v.push_back(l.substr(1, e - 1));
+    }
+    return v;
+}
+
+class layout : public plot_session {
+protected:
+    void SetUp() override {
+        plot_session::SetUp();
+        axisblk7a = axisblk7a_t{};
+        axisblk7b = axisblk7b_t{};
+        wellplot = wellplot_t{};
+        swellplot(5);
+    }
+    // A plot opened afresh resets every map: the layout is built again, as
+    // logplot2's plot files keep it by opening with 2.
+    void open(std::string_view name) {
+        open_plot(name);
+        swellsubplot();
+        // Box 1 as logplot2 leaves it: four full axes.
+        int ix = 3, iy = 1, l = 1, r = 1, b = 1, t = 1, clip = 0, zero = 0;
+        fstr<BOXLABLEN> lab = "log plot";
+        s1bx2d(ix, iy, l, r, b, t, clip, zero, lab, 1, 1);
+        skip_lines();
+        con.screen.clear();
+    }
+    void type_keys(std::initializer_list<std::string> keys) {
+        for (const auto& k : keys) con.type(k);
+    }
+    int find(const std::string& s, int from = 0) const {
+        auto it = std::find(con.screen.begin() + from, con.screen.end(), s);
+        return it == con.screen.end() ? -1 : int(it - con.screen.begin());
+    }
+};
+
+TEST_F(layout, StartUpSetsOrientationColoursAndTheFifteenAxisSets) {
+    swellplot(5);
+    const int k = find(" INITIALIZING PLOT SCALING, ATTRIBUTES & AXES");
+    ASSERT_GT(k, 0);
+    EXPECT_EQ(con.screen[std::size_t(k - 2)], " @ subroutine swellplot             v9.0 2020-10-19");
+    EXPECT_TRUE(wellplot.llandscape);
+    EXPECT_EQ(wellplot.jclrc1, 2);
+    EXPECT_EQ(wellplot.jclrc2, 4);
+
+    struct row { const char* label; float a, b, d; int sub, lab; };
+    const row want[15] = {
+        {"Depth (m)", 0, 1000, 50, 5, 2},       {"Azimuth [90]", 0, 90, 30, 3, 1},
+        {"AzCmax [180]", 0, 180, 30, 3, 3},     {"Diameter (cm)", 10, 40, 5, 5, 2},
+        {"DC (cm)", -15, 15, 5, 5, 3},          {"|DC| (cm)", 0, 15, 5, 5, 2},
+        {"Azimuth [360]", 0, 360, 30, 3, 3},    {"Rotation (deg/m)", -15, 15, 5, 5, 3},
+        {"0 -> 100 inc = 10", 0, 100, 5, 5, 2}, {"HAZI", 0, 360, 30, 3, 3},
+        {"DEVI", 0, 5, 0.5f, 5, 2},             {"RB", 0, 360, 30, 3, 3},
+        {"RBCmax [180]", 0, 180, 30, 3, 3},     {"AzCmax [180]", 0, 180, 30, 3, 3},
+        {"X section (cm)", -20, 20, 5, 5, 2}};
+    const axisblk7a_t& a = axisblk7a;
+    for (int i = 1; i <= 15; ++i) {
+        const row& r = want[i - 1];
+        SCOPED_TRACE("axis set " + std::to_string(i));
+        EXPECT_EQ(axisblk7b.WALAB(i).trimmed(), r.label);
+        EXPECT_EQ(a.USA1(i), r.a);
+        EXPECT_EQ(a.USA2(i), r.b);
+        EXPECT_EQ(a.WAU1(i), r.a);
+        EXPECT_EQ(a.WAU2(i), r.b);
+        EXPECT_EQ(a.WAUD(i), r.d);
+        EXPECT_EQ(a.WALAS(i), 0.5f);
+        EXPECT_EQ(a.NAWDIG(i), 0);
+        EXPECT_EQ(a.NASUBINT(i), r.sub);
+        EXPECT_EQ(a.NLABINTK(i), r.lab);
+        EXPECT_EQ(a.IUSWDTYP(i), i == 9 ? 0 : 1);
+    }
+}
+
+TEST_F(layout, LandscapeRowsShareBottomAndHeightAndWideBoxesCoverNarrowOnes) {
+    EXPECT_BOX(2, 2.5f, 2.5f, 25.0f, 15.0f);
+    EXPECT_EQ(plt1blk.USEXTR(3, 2), 1000.0f);  // depth grows downwards
+    EXPECT_EQ(plt1blk.USEXTR(4, 2), 0.0f);
+    EXPECT_BOX(8, 2.5f + 5.0f * 25.0f / 6.0f, 2.5f, 25.0f / 6.0f, 15.0f);
+    EXPECT_BOX(9, 2.5f, 2.5f, 3.0f, 15.0f);
+    EXPECT_BOX(20, 25.5f, 2.5f, 2.0f, 15.0f);
+    EXPECT_BOX(22, 8.5f, 2.5f, 3.0f, 15.0f);
+    EXPECT_FLOAT_EQ(boxof(22).x + 3.0f, boxof(13).x);
+    EXPECT_BOX(32, 15.25f, 2.5f, 4.25f, 15.0f);
+    EXPECT_BOX(36, 25.5f, 2.5f, 2.0f, 15.0f);
+    EXPECT_BOX(37, 15.25f, 2.5f, 8.25f, 15.0f);
+    EXPECT_FLOAT_EQ(boxof(37).x + 8.25f, boxof(35).x);
+    // Statistics: top row 25, 24, 23, lower row 28, 27, 26.
+    EXPECT_BOX(28, 4.0f, 3.0f, 6.0f, 6.0f);
+    EXPECT_BOX(23, 20.0f, 11.0f, 6.0f, 6.0f);
+    // 1: a fixed scale of 0.8 about the top middle of the page.
+    EXPECT_EQ(plt1blk.US0TOCM(1, 1), 15.0f);
+    EXPECT_EQ(plt1blk.US0TOCM(2, 1), 17.5f);
+    EXPECT_FLOAT_EQ(plt1blk.USTOCM(1, 1, 1), 0.8f);
+    EXPECT_FLOAT_EQ(plt1blk.USTOCM(2, 2, 1), 0.8f);
+}
+
+TEST_F(layout, SlogboxScalesTheBoxToItsSetsAndFramesItByCode) {
+    open("slogbox.ps");
+    // logplot2 gives the depth set the selected interval.
+    axisblk7a.USA1(1) = axisblk7a.WAU1(1) = 1200.0f;
+    axisblk7a.USA2(1) = axisblk7a.WAU2(1) = 1300.0f;
+    slogbox(5, 7, 1, 4, "P1Az [360]");
+    EXPECT_TRUE(con.screen.empty());
+    EXPECT_EQ(plt1blk.isubplot, 5);
+    float x[2] = {0.0f, 360.0f}, y[2] = {1200.0f, 1300.0f};
+    us2cm(x, y, x, y, 2);
+    EXPECT_FLOAT_EQ(x[0], 2.5f + 2.0f * 25.0f / 6.0f);  // left, top
+    EXPECT_NEAR(y[0], 17.5f, 1e-4f);
+    EXPECT_FLOAT_EQ(x[1], 2.5f + 3.0f * 25.0f / 6.0f);  // right, bottom
+    EXPECT_NEAR(y[1], 2.5f, 1e-4f);
+    // The label stays on the set for the next track that takes it.
+    EXPECT_EQ(axisblk7b.WALAB(7).trimmed(), "P1Az [360]");
+
+    struct { int frame, left, right, depth; } want[] = {{1, 1, 0, 1}, {2, 0, 1, 1}, {3, 1, 1, 2},
+                                                       {4, 0, 0, 0}};
+    for (const auto& w : want) {
+        SCOPED_TRACE("frame " + std::to_string(w.frame));
+        skip_lines();
+        slogbox(3, 4, 1, w.frame, "C1,C2 (cm)");
+        const lines s = strings(new_lines());
+        EXPECT_EQ(axisblk7a.IBBORDER(1), w.left);
+        EXPECT_EQ(axisblk7a.IBBORDER(2), w.right);
+        EXPECT_EQ(count(s, "Depth (m)"), w.depth);
+        EXPECT_EQ(count(s, "C1,C2 (cm)"), 2);  // top and bottom
+        EXPECT_EQ(count(s, "1300"), w.depth);
+    }
+    // 0 sets the box up without drawing and keeps the borders.
+    slogbox(4, 6, 1, 0, "|C1-C2|");
+    EXPECT_TRUE(new_lines().empty());
+    EXPECT_EQ(axisblk7a.IBBORDER(1), 0);
+    EXPECT_EQ(axisblk7a.ixaxisbx, 6);
+    EXPECT_EQ(axisblk7a.iyaxisbx, 1);
+    EXPECT_EQ(plt1blk.isubplot, 4);
+    close_plot();
+}
+
+TEST_F(layout, TwelveAndEightBoxPagesRender) {
+    // The page format file asks for landscape A4, the page these layouts fill.
+    std::ofstream("quarp9_ini.txt") << " 3 'Landscape A4'\n \n";
+    open("pages.ps");
+    slogbox(9, 4, 1, 1, "C1,C2 (cm)");
+    for (int n = 10; n <= 19; ++n) slogbox(n, 14, 1, 4, "R+R");
+    slogbox(20, 14, 1, 2, "S+S");
+    con.type("0");
+    newpage();
+    const char* labels[] = {"C1,C2 (cm)", "|C1-C2|", "RBCmax", "Azimuth [180]", "X+S", "S+S"};
+    const int sub[] = {29, 30, 31, 37, 35, 36}, set[] = {4, 6, 13, 14, 14, 14}, fr[] = {1, 4, 4, 4, 4, 2};
+    for (int k = 0; k < 6; ++k) slogbox(sub[k], set[k], 1, fr[k], labels[k]);
+    close_plot();
+    const lines s = strings(read_lines("pages.ps"));
+    EXPECT_EQ(count(s, "Depth (m)"), 4);
+    EXPECT_EQ(count(s, "R+R"), 20);
+    EXPECT_GS_RENDERS("pages.ps");
+}
+
+TEST_F(layout, MenuShowsTheLayoutsAndTurnsThePage) {
+    con.screen.clear();
+    type_keys({"50", "11", "0", "50", "99"});
+    swellplot(2);
+    const lines& sc = con.screen;
+    const int m = find(" MULTIPLE PLOTS LAYOUT");
+    ASSERT_GE(m, 0);
+    EXPECT_EQ(lines(sc.begin() + m, sc.begin() + m + 7),
+              (lines{" MULTIPLE PLOTS LAYOUT", " modify scaling ............10",
+                     " Landscape(T)/Portrait(F)...11 T", " modify plot attributes ....15",
+                     " modify axes params ........20", " show subplot layout .......50",
+                     " EXIT ......................99"}));
+    const int l = find("   n  : fixed box size, origin at lower left");
+    ASSERT_GT(l, m);
+    EXPECT_EQ(lines(sc.begin() + l + 1, sc.begin() + l + 4),
+              (lines{"  (n) : fixed scale,    origin at center", "  Full page for perspectives",
+                     " -------------------------------------------"}));
+    EXPECT_EQ(sc[std::size_t(l + 7)], " |                      (1)                      |");
+    const int t = find("  5 boxes for logs: large 37", l);
+    ASSERT_GT(t, l);
+    EXPECT_EQ(sc[std::size_t(t + 4)], " |  29   |  30   |  31   |      37       |35 |36 |");
+    EXPECT_EQ(lines(sc.begin() + t + 7, sc.begin() + t + 13),
+              (lines{"  6 boxes for stats", "  fixed box size, origin at lower left",
+                     " -------------------------------------------",
+                     " +---------+   +---------+   +---------+",
+                     " |         |   |         |   |         |",
+                     " |   25    |   |   24    |   |   23    |"}));
+    // Turned to portrait: the flag, the boxes and the stats drawing follow.
+    EXPECT_GT(find(" N.B. Exchanging Landscape for Portrait ", t), t);
+    EXPECT_FALSE(wellplot.llandscape);
+    EXPECT_BOX(2, 2.5f, 2.5f, 16.0f, 24.0f);
+    EXPECT_BOX(12, 4.3f + 2.4f, 2.5f, 1.2f, 24.0f);
+    EXPECT_BOX(37, 10.0f, 2.5f, 5.0f, 24.0f);
+    EXPECT_BOX(25, 3.5f, 19.5f, 6.0f, 6.0f);  // left column 25, 24, 23 from the top
+    EXPECT_EQ(plt1blk.US0TOCM(2, 1), 26.5f);
+    const int f = find(" Landscape(T)/Portrait(F)...11 F", t);
+    ASSERT_GT(f, t);
+    const int p = find(" |   25    |   |   28    |", f);
+    ASSERT_GT(p, f);
+    EXPECT_EQ(sc[std::size_t(p + 6)], " |   24    |   |   27    |");
+}
+
+TEST_F(layout, SubplotEditsLastUntilTheOrientationChanges) {
+    // Subplot 3 by hand; 0 does nothing; 11 with the same answer keeps the
+    // edit; 99 to "subplot nb to modify" leaves, never sets all.
+    type_keys({"10", "0", "3", "1", "0", "100", "0", "200", "1", "1", "5", "5", "0", "99"});
+    type_keys({"11", "1", "99"});
+    swellplot(2);
+    EXPECT_BOX(3, 1.0f, 1.0f, 5.0f, 5.0f);
+    EXPECT_EQ(count(con.screen, " Do you want to alter this ?"), 1);
+    EXPECT_EQ(count(con.screen, " subplot nb maxi =  28"), 3);
+    // Above 28: 1 to 28 in turn.
+    type_keys({"10", "29"});
+    for (int k = 1; k <= 28; ++k) type_keys({""});
+    type_keys({"99", "11", "0", "99"});
+    swellplot(2);
+    EXPECT_EQ(count(con.screen, " Do you want to alter this ?"), 29);
+    EXPECT_BOX(3, 2.5f, 2.5f, 16.0f / 6.0f, 24.0f);
+}
+
+TEST_F(layout, ResetWithDialogueOffersEachAxisSetThenTheMenu) {
+    axisblk7b.WALAB(6) = "edited";
+    wellplot.llandscape = false;
+    for (int k = 1; k <= 31; ++k) type_keys({""});
+    swellplot(4);
+    EXPECT_TRUE(wellplot.llandscape);
+    EXPECT_EQ(axisblk7b.WALAB(6).trimmed(), "|DC| (cm)");
+    EXPECT_EQ(count(con.screen, " MULTIPLE PLOTS LAYOUT"), 1);
+    EXPECT_TRUE(con.keys.empty());
+}
+
+}  // namespace
