@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "borehole/wellplot.h"
 #include "math/angles.h"
 #include "plot/attributes.h"
 #include "plot/pages.h"
@@ -84,6 +85,7 @@ void tarnolix_main() {
     trigoset();
     plotname = "well.ps";
     splotattributes(5);
+    swellplot(5);
     swellparam(5);
     wdtype(work, 5);
     readwell2(5);
@@ -97,6 +99,7 @@ void tarnolix_main() {
         switch (command) {
         case 1: writesio(iocom.isout); break;
         case 2: swpinfo(work, 2); break;
+        case 13: swellplot(2); break;
         case 5000: altsio2(cmdfile, command, 0); break;
         case 5100: moutputn(0); break;
         default: break;

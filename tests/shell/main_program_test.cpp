@@ -203,6 +203,13 @@ TEST_F(MainMenu, StartsWithTheBannerAndLeavesNoTemporaryFile) {
     EXPECT_EQ(fake.commands.size(), 4u);
 }
 
+TEST_F(MainMenu, PlotLayoutCommandShowsItsMenu) {
+    type({"13", "99", "9999"});
+    EXPECT_EQ(run(), 0);
+    EXPECT_EQ(count(" MULTIPLE PLOTS LAYOUT"), 1);
+    EXPECT_EQ(passes(), 2);
+}
+
 TEST_F(MainMenu, RunInfoCommandShowsItsMenu) {
     type({"2", "0", "9999"});
     EXPECT_EQ(run(), 0);
