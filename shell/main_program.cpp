@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "borehole/logplot2.h"
 #include "borehole/wellplot.h"
 #include "math/angles.h"
 #include "plot/attributes.h"
@@ -87,6 +88,7 @@ void tarnolix_main() {
     splotattributes(5);
     swellplot(5);
     swellparam(5);
+    logplot2(5);
     wdtype(work, 5);
     readwell2(5);
 
@@ -114,6 +116,7 @@ void tarnolix_main() {
         // Stage C: the well data commands and the end of the run.
         if (command == 100) readwell2(2);
         if (command == 110) swellparam(0);
+        if (command == 120) logplot2(0);
         if (command == 9999) break;
         if (command == 999) {
             inintegdef(command, "999 to confirm quit", command, ierr);

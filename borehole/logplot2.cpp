@@ -1,0 +1,370 @@
+// The log analysis menu: one pass of its loop takes one command; a plot
+// command (100 to 400) gets a page of its own, the computations it needs,
+// the page head and then every track routine, each of which draws what the
+// command asks of it.
+#include "borehole/logplot2.h"
+
+#include <string>
+
+#include "borehole/derived.h"
+#include "borehole/tracks.h"
+#include "borehole/wellplot.h"
+#include "plot/attributes.h"
+#include "plot/axes/axes.h"
+#include "plot/pages.h"
+#include "shell/format.h"
+#include "shell/frames.h"
+#include "shell/prompts.h"
+#include "shell/runinfo.h"
+#include "shell/sio.h"
+#include "shell/textconv.h"
+#include "well/welldat.h"
+#include "well/wellpara.h"
+
+namespace {
+
+// Settings kept from one stay in the menu to the next.
+struct logsaved_t {
+    fstr<40> fplotlog;  // plot file name
+    int icsat;          // "Csat activated ?": asked and listed only; the
+                        // saturation limits act through the size codes
+    int nrotf;          // intervals of the forward rotation
+    int nrotc;          // intervals of the central rotation, even
+    int isymlog;        // symbol type of the log tracks
+    float symsizelog;   // their symbol size, cm
+};
+logsaved_t logsaved{"log.ps", 0, 66, 66, 5, 0.2f};
+
+void line(std::string_view s) { writef(iocom.isout, "(1x,a)", s); }
+void rule() { line(DASHED); }
+void blockhead(std::string_view s) {
+    rule();
+    line(s);
+    rule();
+}
+
+void menu(bool lupdate) {
+    const int out = iocom.isout;
+    welldat_t& w = welldat;
+    blockhead("PLOT PARAMS                       Command");
+    line("Open plot file ........................10");
+    writef(out, "(1x,a,1x,l1)", "Landscape(T)/Portrait(F) ..............11", wellplot.llandscape);
+    line("Set plot and axes params ..............13");
+    line("Boxes set up ..........................15");
+    line("Local symbol type .....................16");
+    line("Local symbol size .....................17");
+    line("Close plot file .......................20");
+    int ilist = 1;
+    dat1astatus1("WELL", w.TYPWDNAM(w.itypwd).sv(), w.IDTYPWD(w.itypwd), w.finwd.sv(),
+                 w.titlewd.sv(), w.ndatwd, MAXDATWD, w.NAMVAR, w.nvarwd, MAXVARWD, w.JCOL.data(),
+                 w.NAMCOL, w.ncolwd, MAXCOLWD, ilist, 1);
+    swellparam(10);
+    line("Change hole parameters ................50");
+    blockhead("PARAMETERS                        Command");
+    writef(out, "(1x,a,1x,l1)", "Update computations :", lupdate);
+    writef(out, "(1x,a,1x,i6,1x,a)", "Csat activated ?......................855", logsaved.icsat);
+    writef(out, "(1x,a,1x,i6,1x,a)", "Nb intervals for forward rotation ....856", logsaved.nrotf);
+    writef(out, "(1x,a,1x,i6,1x,a)", "Nb intervals for central rotation ....857", logsaved.nrotc);
+    blockhead("CROSS PLOT                        Command");
+    line("AzCmax[180]-DC .......................101");
+    blockhead("MULTIPLE PLOTS (Z)                Command");
+    static const char* const plots[] = {
+        "Xsct,C12,P1Az360,DEV,HAZ,RB360 .......301",
+        "Cex,AzCmx180,P1Az90,P1Az360,Rotf1,2 ..302",
+        "Cex,AzCmx180,P1Az90,P1Az360,Rotc1,2 ..303",
+        "C12,P1Az360,DEV,HAZ,RB360,Rotcdif.....304",
+        "C12,P1Az360,DEV,HAZ,RB360,Rotclsq.....305",
+        "C12,|DC|,DC,Cmin-BS,ACmx,RBCmx .......320",
+        "ASE test < 0 .........................321",
+        "ASE test > 0 .........................322",
+        "ADE test < 0 .........................323",
+        "ADE test > 0 .........................324",
+        "ARK (KS) test < 0 ....................325",
+        "ARK (KS) test > 0 ....................326",
+        "ASE combined tests > 0 ...............332",
+        "ASE combined tests > 0 + W ...........333",
+        "ADE combined tests > 0 ...............334",
+        "ADE combined tests > 0 + W ...........335",
+        "|DC| test ............................350",
+        "C Saturation test ....................351",
+        "P1Az360,Rotf1,Rotf2,test<0,test>0 ....353",
+        "RB,RBCmx,RB test .....................354",
+        "C12,11 Csize Couples .................355",
+        "C12,|DC|,RBCmx,8 Elong Categories ....356",
+        "C12,|DC|,RBCmx,P1Az360,ASE,ADE .......357",
+        "C12,|DC|,RBCmx,7 Elong Categories ....358",
+        "C12,|DC|,RBCmx,P1Az360,ASE,ADE .......359",
+        "C12,|DC|,RBCmx,P1Az360,ASE,ADE,BO,POW.360",
+        "C12,|DC|,RBCmx,AzCmax+P1Az180,X+S,S ..361",
+        "C12,|DC|,RBCmx,AzCmax+P1Az180,BO,POW .362",
+    };
+    for (const char* l : plots) line(l);
+    blockhead("OUTPUT TO FILE ...................Command");
+    line("FULL OUTPUT ..........................500");
+    rule();
+    line("EXIT THIS SUBROUTINE ..................99");
+    menutail();
+}
+
+// Command 11.
+void orientation() {
+    rule();
+    line("N.B. Exchanging Landscape for Portrait ");
+    line("     will reset all subplots scaling");
+    rule();
+    bool landscape = wellplot.llandscape;
+    int ierr = 0;
+    inlogicdef(landscape, "Use Landscape(1) or Portrait(0) A4", wellplot.llandscape, ierr);
+    if (landscape != wellplot.llandscape) {
+        wellplot.llandscape = landscape;
+        swellsubplot();
+    }
+}
+
+// Command 15: the box every track draws through.
+void boxsetup() {
+    int bx = 0, by = 0, left = 0, right = 0, bottom = 0, top = 0, iclip = 0, izero = 0;
+    fstr<BOXLABLEN> label;
+    s1bx2d(bx, by, left, right, bottom, top, iclip, izero, label, 1, 2);
+}
+
+// Command 856.
+void forwardintervals() {
+    rule();
+    line("             forward rotation");
+    line("       Entering number of intervals");
+    line(" Number of interval = number of points - 1");
+    line("         THIS NUMBER MUST BE > 1");
+    rule();
+    int ierr = 0;
+    inintegvindef(logsaved.nrotf, "Number of intervals", logsaved.nrotf, 1, 1000, ierr);
+}
+
+// Command 857: the central difference needs as many points on each side.
+void centralintervals() {
+    rule();
+    line("           central rotation");
+    line("     Entering number of intervals");
+    line(" Number of interval = number of points - 1");
+    line("      THIS NUMBER MUST BE EVEN AND > 1");
+    rule();
+    int nint = logsaved.nrotc, ierr = 0;
+    inintegvindef(nint, "EVEN number of intervals", logsaved.nrotc, 2, 1000, ierr);
+    if (nint % 2 == 0) {
+        logsaved.nrotc = nint;
+        return;
+    }
+    warninghead(VB_LOGPLOT2);
+    writef(iocom.isout, "(1x,a,1x,i6)", "Entered nb of intervals =", nint);
+    line("CENTERED ROTATION");
+    line("NB OF INTERVALS MUST BE EVEN");
+    line("=> DISCARDING INPUT");
+    line("=> KEEPING OLD STORED VALUE");
+    writef(iocom.isout, "(1x,a,1x,i6)", "Stored nb of intervals =", logsaved.nrotc);
+    warningtail00();
+}
+
+bool plotcommand(int icmd) { return icmd >= 100 && icmd <= 400; }
+
+std::string realtext(float v) {
+    fstr<12> t;
+    int k = 0;
+    real2charf1(t, k, 2, 12, v);
+    return std::string(t.sub(1, k));
+}
+std::string integtext(int v) {
+    fstr<12> t;
+    int k = 0;
+    intg2char(t, k, 12, v);
+    return std::string(t.sub(1, k));
+}
+
+// The head of a plot page: the depth and azimuth scales of the selection,
+// then the run information, the data information and the parameters that
+// the page's tracks depend on.
+void pageframe(int icmd, int itop, int ibot, bool ldata, bool lcal) {
+    const welldat_t& w = welldat;
+    const wellpara_t& p = wellpara;
+    if (ldata) {
+        float usa1, usa2, wau1, wau2, waud, walas;
+        fstr<AXLABLEN> walab;
+        int nawdig, nasubint, nlabintk;
+        const int depthaxis = 1;
+        s1axis1(usa1, usa2, wau1, wau2, waud, walas, walab, nawdig, nasubint, nlabintk, depthaxis,
+                3);
+        usa1 = wau1 = p.ztop;
+        usa2 = wau2 = p.zbot;
+        walab = w.NAMVAR(w.jdepth);
+        s1axis1(usa1, usa2, wau1, wau2, waud, walas, walab, nawdig, nasubint, nlabintk, depthaxis,
+                1);
+    }
+    if (lcal) {
+        trackaxisrange(3, p.azcmaxorig, p.azcmaxorig + 180.0f);
+        trackaxisrange(14, p.azcmaxorig, p.azcmaxorig + 180.0f);
+    }
+
+    const bool land = wellplot.llandscape;
+    const float y = land ? 20.0f : 29.0f;
+    int entryalign = 0, align = 0;
+    stextalign(entryalign, 3);
+
+    align = -2;
+    stextalign(align, 1);
+    cmplotruninfo2(land ? 15.0f : 10.5f, y);
+
+    align = -1;
+    stextalign(align, 1);
+    cmplotdatainfo0("WELL", w.TYPWDNAM(w.itypwd).sv(), w.finwd.sv(), w.titlewd.sv(), w.ndatwd,
+                    land ? 3.0f : 2.0f, y);
+
+    align = -3;
+    stextalign(align, 1);
+    const float x = land ? 27.0f : 19.0f;
+    // The lines need a selection; without data there is none to describe.
+    if (ldata && ibot >= itop) {
+        const int jdep = w.JCOL(w.jdepth);
+        // The increment is that of the file's first two rows, wherever the
+        // selection starts.
+        const float inc = w.ndatwd >= 2 ? w.RWD1(2, jdep) - w.RWD1(1, jdep) : 0.0f;
+        cmplotcharinfo2("Depth init = " + realtext(w.RWD1(itop, jdep)) + " final = " +
+                            realtext(w.RWD1(ibot, jdep)) + " inc = " + realtext(inc),
+                        1, x, y);
+        // 362 stops short of the test parameters on purpose.
+        const bool tests = (icmd >= 321 && icmd <= 351) || (icmd >= 354 && icmd <= 361);
+        if (tests) {
+            cmplotcharinfo2("BS = " + realtext(p.bitsize) + " t1 = " + realtext(-p.cbsmin) +
+                                " t2 = " + realtext(p.cbsmax),
+                            2, x, y);
+            cmplotcharinfo2("C1Sat = " + realtext(p.c1sat) + " C2Sat = " + realtext(p.c2sat), 3,
+                            x, y);
+            cmplotcharinfo2("DCt = " + realtext(p.cdiff) + " RBt = " + realtext(p.rbcmaxthr), 4,
+                            x, y);
+        } else if (icmd == 303 || icmd == 304 || icmd == 305) {
+            cmplotcharinfo2("Centered rotation on " + integtext(logsaved.nrotc) + " intervals", 2,
+                            x, y);
+        } else if (icmd == 302 || icmd == 353) {
+            cmplotcharinfo2("Forward rotation on " + integtext(logsaved.nrotf) + " intervals", 2,
+                            x, y);
+        }
+    }
+    stextalign(entryalign, 1);
+}
+
+}  // namespace
+
+void logplot2(const int& intera) {
+    logsaved_t& s = logsaved;
+    if (intera == 4 || intera == 5) {
+        submenuhead(VB_LOGPLOT2);
+        line("INITIALIZING LOG PLOT PARAMETERS");
+        s = logsaved_t{"log.ps", 0, 66, 66, 5, 0.2f};
+        return;
+    }
+    ssubinfo2(VB_LOGPLOT2.name, VB_LOGPLOT2.version, VB_LOGPLOT2.date);
+
+    // The IWD1 columns, passed on so that no track uses the numbers.
+    [[maybe_unused]] const int icwork = IWD_WORK;
+    const int icsize = IWD_SIZE, icdc = IWD_DC, icmax = IWD_MAX, icrb = IWD_RB;
+
+    // Entering: box 1 across the AzCmax scale and down the depth.
+    {
+        int bx = 0, by = 0, left = 0, right = 0, bottom = 0, top = 0, iclip = 0, izero = 0;
+        fstr<BOXLABLEN> label;
+        s1bx2d(bx, by, left, right, bottom, top, iclip, izero, label, 1, 3);
+        bx = 3;
+        by = 1;
+        left = right = bottom = top = 1;
+        label = "log plot";
+        s1bx2d(bx, by, left, right, bottom, top, iclip, izero, label, 1, 1);
+    }
+    // The symbols of the tracks are the log's own; those in force come back
+    // on leaving.
+    int isymentry = 0;
+    float symsizentry = 0.0f;
+    ssymboltype(isymentry, 3);
+    ssymbolsize(symsizentry, 3);
+    ssymboltype(s.isymlog, 1);
+    ssymbolsize(s.symsizelog, 1);
+
+    farr<int, 2> jcc;
+    jcc.fill(0);
+    bool ldata = false, lcal = false, lazc = false, lrb = false;
+    logdatacheck(jcc, ldata, lcal, lazc, lrb);
+    logstage1(lazc, jcc, icmax, lcal, lrb);
+
+    bool lupdate = true;
+    int itop = 1, ibot = 0, nsel = 0;
+    int icmd = 0, ierr = 0;
+    for (;;) {
+        if (iocom.LWITO(1)) submenuhead(VB_LOGPLOT2);
+        if (iocom.LWITO(2)) menu(lupdate);
+        ininteg1(icmd, "your choice", ierr);
+        if (icmd >= 100 && icmd <= 500) scmndinfo(icmd);
+
+        switch (icmd) {
+        case 11: orientation(); break;
+        case 13: swellplot(2); break;
+        case 15: boxsetup(); break;
+        case 16: ssymboltype(s.isymlog, 2); break;
+        case 17: ssymbolsize(s.symsizelog, 2); break;
+        case 50:
+            swellparam(0);
+            lupdate = true;
+            break;
+        case 855:
+            inintegvindef(s.icsat, "whether to filter out saturation (0/1)", s.icsat, 0, 1, ierr);
+            lupdate = true;
+            break;
+        case 856:
+            forwardintervals();
+            lupdate = true;
+            break;
+        case 857:
+            centralintervals();
+            lupdate = true;
+            break;
+        default: break;
+        }
+        if (icmd == 99) break;
+
+        // Without data a plot command would have nothing to stand on: say
+        // so again and take no page.
+        if (plotcommand(icmd) && !ldata) {
+            logdatacheck(jcc, ldata, lcal, lazc, lrb);
+            continue;
+        }
+
+        if (icmd == 20)
+            plend();
+        else if (iocom.lplotopen && plotcommand(icmd))
+            newpage();
+        else if (icmd == 10 || plotcommand(icmd))
+            plinit(s.fplotlog, 2);
+
+        if (plotcommand(icmd) && lupdate) {
+            int fail = 0;
+            logstage2(fail, itop, ibot, nsel, lupdate, jcc, icsize, icdc, icmax, icrb, ldata,
+                      lcal, lrb);
+            // The page already begun stays blank; the next plot command
+            // tries the selection again.
+            if (fail != 0) continue;
+        }
+        if (plotcommand(icmd)) pageframe(icmd, itop, ibot, ldata, lcal);
+
+        // The tracks, in their fixed order.
+        log_dat_plot3(itop, ibot, ldata, lcal, lazc, lrb, icmd);
+        if (lcal) log_p1az_plot(itop, ibot, icmd);
+        // Still to come, in this place and order:
+        //   log_rot_plot(itop, ibot, nrotf, nrotc, icmd) with lcal, for 302
+        //     to 305 and 353;
+        //   with lazc: log_azcm_11cdcat_plot2 for 355 and 361; then one of
+        //     log_azcm_8hgcat_plot (lrb, 356, 357), log_azcm_7hgcat_plot
+        //     (lrb, 358 to 362) or else log_azcm_tst_plot;
+        //   log_azcm_select_plot for 360 and 362 with lazc;
+        //   the full output for 500 with ldata.
+    }
+
+    ssymboltype(isymentry, 1);
+    ssymbolsize(symsizentry, 1);
+    ssubexitinfo(VB_LOGPLOT2.name, VB_LOGPLOT2.version, VB_LOGPLOT2.date);
+}
