@@ -6,9 +6,16 @@ cd "$(dirname "$0")/.."
 bash tools/install_deps.sh
 cmake -S . -B build -G Ninja -DTARNOLIX_TESTS=OFF
 cmake --build build -j "$(nproc)"
+rm -rf demo
 mkdir -p demo
-cp data/well*.txt demo/
+cp data/well210.txt demo/
 cd demo
-../build/tarnolix < ../data/main_job.keys
+../build/tarnolix < ../data/log_job.keys | tee console.log
+if command -v ps2pdf >/dev/null 2>&1; then
+  ps2pdf log.ps log.pdf
+fi
 echo
-echo "demo output is in $(pwd)"
+echo "demo files in $(pwd):"
+echo "  log.ps       the three log pages (PostScript)"
+[ -f log.pdf ] && echo "  log.pdf      the same pages as PDF"
+echo "  console.log  the whole console dialogue"

@@ -6,7 +6,7 @@ cd "$(dirname "$0")/.."
 bash tools/install_deps.sh
 jobs=$(nproc)
 
-cmake -S . -B build -G Ninja -DTARNOLIX_BENCH=ON
+cmake -S . -B build -G Ninja -DTARNOLIX_TESTS=ON -DTARNOLIX_BENCH=ON
 cmake --build build -j "$jobs"
 ctest --test-dir build --output-on-failure -j "$jobs"
 
