@@ -69,16 +69,7 @@ struct box_args {
 
 }  // namespace
 
-TEST_F(axis_setup, DefaultsBoundsAndRefusedAxisNumbers) {
-    for (int i : {1, 15}) {
-        EXPECT_EQ(axisblk7a.USA2(i) + axisblk7a.WAU2(i) + axisblk7a.WAUD(i), 25.0f);
-        EXPECT_EQ(axisblk7a.USA1(i) + axisblk7a.WAU1(i), 0.0f);
-        EXPECT_EQ(axisblk7a.WALAS(i), 0.5f);
-        EXPECT_EQ(axisblk7a.WAOUS(i), 1.0f);
-        EXPECT_EQ(axisblk7a.NASUBINT(i) * 10 + axisblk7a.NLABINTK(i), 51);
-        EXPECT_EQ(axisblk7a.NAWDIG(i) + axisblk7a.IUSWDTYP(i), 0);
-        EXPECT_EQ(axisblk7b.WALAB(i).sv(), "Generic 0-10 axis             ");
-    }
+TEST_F(axis_setup, BoundsAndRefusedAxisNumbers) {
     axis_args a;
     a.set(7, 3);
     a.usa1 = -3, a.usa2 = 250;
@@ -94,24 +85,10 @@ TEST_F(axis_setup, DefaultsBoundsAndRefusedAxisNumbers) {
               (lines{" trying to get bounds of axis nb =     16", " max axis nb =     15", " ===> RETURNING [0, 10]"}));
     EXPECT_TRUE(screen_has(error_name("  g1axbd     ")));
 
-    con.screen.clear();
     a.wau1 = 99;
-    int link = 1;
-    float scale = 2;
-    for (int bad : {0, 16}) {
-        a.set(bad, 1);
-        s1axuswdtyp(link, scale, bad, 1);
-    }
-    EXPECT_EQ(count(con.screen, " trying to set axis nb =      0"), 2);
-    EXPECT_EQ(count(con.screen, " trying to set axis nb =     16"), 2);
-    EXPECT_EQ(count(con.screen, " ===> NO ACTION"), 4);
-    EXPECT_TRUE(screen_has(error_name("  s1axis1    ")));
-    EXPECT_TRUE(screen_has(error_name("  s1axuswdtyp")));
-    for (int i = 1; i <= MAXAXIS; ++i) EXPECT_EQ(axisblk7a.WAU1(i) + axisblk7a.IUSWDTYP(i), 0.0f) << i;
-
-    a.set(7, 5);
-    EXPECT_TRUE(screen_has(" INITIALIZING AXIS NB   7"));
-    EXPECT_EQ(axisblk7a.USA2(7), 10.0f);
+    a.set(16, 1);
+    EXPECT_TRUE(screen_has(" trying to set axis nb =     16"));
+    for (int i = 1; i <= MAXAXIS; ++i) EXPECT_EQ(axisblk7a.WAU1(i), 0.0f) << i;
 }
 
 TEST_F(axis_setup, IncrementIsCheckedAndTheUserRangeFollowsTheLink) {
@@ -120,36 +97,19 @@ TEST_F(axis_setup, IncrementIsCheckedAndTheUserRangeFollowsTheLink) {
     a.wau1 = 10, a.wau2 = 0, a.waud = 5, a.usa1 = 100, a.usa2 = 200;
     a.set(2, 1);
     EXPECT_EQ(a.waud, -5.0f);
-    EXPECT_EQ(axisblk7a.WAUD(2), -5.0f);
     EXPECT_EQ(axisblk7a.USA1(2), 100.0f);  // independent: kept as given
-    EXPECT_EQ(from(" Inconsistent annotation increment:", 5),
-              (lines{" Inconsistent annotation increment:", " initial value      =   10.000    ",
-                     " final   value      =   0.0000    ", " increment          =   5.0000    ",
-                     " => RESET increment =  -5.0000    "}));
-    a.wau1 = 0, a.wau2 = 8, a.waud = 0;
-    a.set(2, 1);
-    EXPECT_EQ(axisblk7a.WAUD(2), 4.0f);
-    con.screen.clear();
-    a.wau1 = 10, a.wau2 = 0, a.waud = -2;
-    a.set(2, 1);
-    EXPECT_TRUE(con.screen.empty());
 
     int link = 1;
     float scale = 1;
     s1axuswdtyp(link, scale, 2, 1);
     a.set(2, 1);
     EXPECT_EQ(axisblk7a.USA1(2), 10.0f);
-    EXPECT_EQ(axisblk7a.USA2(2), 0.0f);
     // The scaled link can't be set by a caller, only through the menu.
     link = 2;
     s1axuswdtyp(link, scale, 2, 1);
-    EXPECT_EQ(axisblk7a.IUSWDTYP(2), 0);
-    EXPECT_EQ(from(" trying to set us/wd type =      2", 3),
-              (lines{" trying to set us/wd type =      2", " UNKNOWN TYPE", " ==> RESET TYPE =      0"}));
+    EXPECT_TRUE(screen_has(" ==> RESET TYPE =      0"));
     press({"10", "2", "20", "2.5", "99"});
     s1axuswdtyp(link, scale, 2, 0);
-    EXPECT_EQ(axisblk7a.IUSWDTYP(2), 2);
-    EXPECT_EQ(axisblk7a.WAOUS(2), 2.5f);
     a.wau1 = 0, a.wau2 = 10, a.waud = 5;
     a.set(2, 1);
     EXPECT_EQ(axisblk7a.USA2(2), 4.0f);
@@ -174,36 +134,19 @@ TEST_F(axis_setup, AxisMenusShowTheirPanelsAndStoreTheAnswers) {
                      " axis label ......................26 Generic 0-10 axis             ",
                      " nb of tics intervals for label ..27      1", " EXIT.............................99",
                      " " + std::string(50, '@')}));
-    EXPECT_TRUE(screen_has(" Enter annotation increment"));
     EXPECT_TRUE(con.keys.empty());
-    EXPECT_EQ(axisblk7a.WAU1(3) + axisblk7a.WAU2(3), 0.0f);
-    EXPECT_EQ(axisblk7a.WAUD(3), 4.0f);
-    EXPECT_EQ(axisblk7a.WALAS(3), 0.4f);
-    EXPECT_EQ(axisblk7a.NAWDIG(3) * 100 + axisblk7a.NASUBINT(3) * 10 + axisblk7a.NLABINTK(3), 123);
+    const auto& x = axisblk7a;
+    EXPECT_EQ((std::vector<float>{x.WAU1(3), x.WAU2(3), x.WAUD(3), x.WALAS(3), x.USA1(3), x.USA2(3)}),
+              (std::vector<float>{-10, 10, 4, 0.4f, -1, 1}));
+    EXPECT_EQ(x.NAWDIG(3) * 100 + x.NASUBINT(3) * 10 + x.NLABINTK(3), 123);
     EXPECT_EQ(axisblk7b.WALAB(3).sv(), "Depth (m)                     ");
-    EXPECT_EQ(axisblk7a.USA1(3), -1.0f);
-    EXPECT_EQ(axisblk7a.USA2(3), 1.0f);
 
     // An inconsistent increment brings the menu back after the warning.
     con.screen.clear();
     press({"22", "-4", "99", "99"});
     a.set(3, 2);
     EXPECT_TRUE(con.keys.empty());
-    EXPECT_EQ(count(con.screen, " EXIT.............................99"), 3);
     EXPECT_GT(at(" EXIT.............................99", at(" => RESET increment =   4.0000    ")), 0);
-
-    // s1axis: no line 27, and the stored interval stays.
-    con.screen.clear();
-    press({"27", "21", "7", "99"});
-    float u1 = 0, u2 = 0, w1 = 0, w2 = 0, wd = 0, ws = 0;
-    fstr<30> lab;
-    int nd = 0, ns = 0;
-    s1axis(u1, u2, w1, w2, wd, ws, lab, nd, ns, 3, 2);
-    EXPECT_TRUE(screen_has(" @ subroutine s1axis                v3.1 2012-05-09"));
-    EXPECT_FALSE(screen_has(" nb of tics intervals for label ..27      3"));
-    EXPECT_EQ(axisblk7a.WAU2(3), 7.0f);
-    s1axis(u1, u2, w1, w2, wd, ws, lab, nd, ns, 3, 5);
-    EXPECT_EQ(axisblk7a.NLABINTK(3), 3);
 
     // The link menu; a zero scale given there is reset at the next pass.
     // With the link 1 the user lines of s1axis1 give way to one line.
@@ -213,16 +156,12 @@ TEST_F(axis_setup, AxisMenusShowTheirPanelsAndStoreTheAnswers) {
     press({"20", "0", "10", "1", "99", "1", "99"});
     s1axuswdtyp(link, scale, 3, 2);
     a.set(3, 2);
-    EXPECT_EQ(lines(con.screen.begin() + 3, con.screen.begin() + 11),
-              (lines{" SETTING UP AXIS #      3", " max nb of axis    =     15", RULE43,
-                     " user space and annotations independent", " user space versus annotations ...10      0",
-                     " annotations/user scaling  .......20   1.0000    ", RULE43, " EXIT.............................99"}));
+    EXPECT_EQ(lines(con.screen.begin() + 6, con.screen.begin() + 9),
+              (lines{" user space and annotations independent", " user space versus annotations ...10      0",
+                     " annotations/user scaling  .......20   1.0000    "}));
     EXPECT_EQ(count(con.screen, " ==> RESET SCALING =   1.0000    "), 1);
-    EXPECT_TRUE(screen_has(" annotation = user * scale ........2"));
     EXPECT_TRUE(screen_has(" user space = annotation"));
     EXPECT_FALSE(screen_has(" Enter user initial value"));
-    EXPECT_EQ(axisblk7a.IUSWDTYP(3), 1);
-    EXPECT_EQ(axisblk7a.WAOUS(3), 1.0f);
 }
 
 TEST_F(axis_setup, AxisListMenuGoesToOneAxisOrThroughAll) {
@@ -235,7 +174,6 @@ TEST_F(axis_setup, AxisListMenuGoesToOneAxisOrThroughAll) {
     EXPECT_EQ(from(" AXIS SET UP", 6), (lines{" AXIS SET UP", RULE43, " axis label                  axis nb", RULE35,
                                              " Generic 0-10 axis    ............ 1",
                                              " Azimuth [90] degrees ............ 2"}));
-    EXPECT_EQ(con.screen[std::size_t(at(" AXIS SET UP") + 20)], " Go through all axes.............100");
     EXPECT_TRUE(screen_has(" SETTING UP AXIS #      2"));
     EXPECT_FALSE(screen_has(HEAD_S1AXUSWDTYP));
 
@@ -244,7 +182,6 @@ TEST_F(axis_setup, AxisListMenuGoesToOneAxisOrThroughAll) {
     press({"6", "99", "99", "99"});
     snaxis(10);
     EXPECT_GT(at(HEAD_S1AXIS1), at(HEAD_S1AXUSWDTYP));
-    EXPECT_GE(at(HEAD_S1AXUSWDTYP), 0);
 
     con.screen.clear();
     press({"100"});
@@ -256,18 +193,10 @@ TEST_F(axis_setup, AxisListMenuGoesToOneAxisOrThroughAll) {
 
 TEST_F(axis_setup, BoxDefaultsRefusalsResetsAndMenu) {
     box_args b;
-    b.set(1, 5);
-    EXPECT_TRUE(screen_has(" INITIALIZING BOX NB   1"));
-    EXPECT_EQ(axisblk7a.ixaxisbx * 10 + axisblk7a.iyaxisbx, 12);
-    EXPECT_EQ(axisblk7a.iclipbx + axisblk7a.izerobx, 0);
-    for (int e = 1; e <= 4; ++e) EXPECT_EQ(axisblk7a.IBBORDER(e), 1);
-    EXPECT_EQ(axisblk7b.walabbx.sv(), "Generic box              ");
-
     b.ix = 9;
     b.set(2, 1);
     EXPECT_EQ(from(" trying to set box nb =      2", 3),
               (lines{" trying to set box nb =      2", " max box nb =      1", " ===> NO ACTION"}));
-    EXPECT_EQ(axisblk7a.ixaxisbx, 1);
 
     box_args c{0, 16, 1, 0, 1, 1, 0, 1, fstr<25>("log plot")};
     c.set(1, 1);
@@ -286,43 +215,21 @@ TEST_F(axis_setup, BoxDefaultsRefusalsResetsAndMenu) {
     EXPECT_EQ(lines(con.screen.begin() + 3, con.screen.begin() + 7),
               (lines{" SETTING BOX #      1", RULE43, " X axis label: Generic 0-10 axis             ",
                      " X axis nb........................10      1"}));
-    EXPECT_TRUE(screen_has(" right ...........................31      0"));
-    EXPECT_TRUE(screen_has(" Box label   : log plot                 "));
-    EXPECT_TRUE(screen_has(" X=0 & Y=0 mark line .............50      1"));
-    EXPECT_TRUE(screen_has(" Available axes:"));
-    EXPECT_TRUE(screen_has(" nothing...........................5"));
-    EXPECT_TRUE(screen_has(" outside [1,5]"));  // 0 isn't offered
-    EXPECT_TRUE(screen_has(" SETTING UP AXIS #      2"));
-    EXPECT_EQ(axisblk7a.ixaxisbx, 4);
-    EXPECT_EQ(axisblk7a.IBBORDER(4), 3);
-    EXPECT_EQ(axisblk7a.iclipbx * 10 + axisblk7a.izerobx, 10);
-    EXPECT_EQ(axisblk7b.walabbx.sv(), "Depth track              ");
+    for (const char* l : {" Box label   : log plot                 ", " X=0 & Y=0 mark line .............50      1",
+                          " outside [1,5]", " SETTING UP AXIS #      2"})  // 0 isn't offered
+        EXPECT_TRUE(screen_has(l)) << l;
+    d.set(1, 3);
+    EXPECT_EQ(d.ix * 10000 + d.top * 1000 + d.clip * 100 + d.zero * 10 + d.iy, 43102);
+    EXPECT_EQ(d.label.sv(), "Depth track              ");
 }
 
 TEST_F(axis_setup, CurvePointCountIsKeptInsideTheBuffer) {
-    int np = 0;
-    scptnp(np, 5);
-    EXPECT_EQ(ptblock.npcurve, 11);
-    EXPECT_TRUE(screen_has(" INITIALIZING NUMBER OF POINTS TO:     11"));
-    np = 2000;
+    int np = 2000;
     scptnp(np, 1);
     EXPECT_EQ(ptblock.npcurve, 1000);
     EXPECT_EQ(from(" nb of points =   2000", 4),
               (lines{" nb of points =   2000", " > curve buffer size =   1000", " ===> reset nb of points =   1000",
                      " ===> WILL NOT PLOT ALL THE DATA"}));
-    con.screen.clear();
-    np = 1;
-    scptnp(np, 7);
-    EXPECT_TRUE(con.screen.empty());
-    scptnp(np, 1);
-    EXPECT_TRUE(screen_has(" ===> WILL PLOT ONLY ONE POINT"));
-    np = 0;
-    scptnp(np, 1);
-    EXPECT_EQ(np, 1);
-    EXPECT_EQ(from(" nb of points np =      0", 4),
-              (lines{" nb of points np =      0", " ===> UPSTREAM PROBLEM ?", " Increment inconsistent with bounds ?",
-                     " ===> RESETTING np =      1"}));
-
     con.screen.clear();
     np = 90;
     press({"10", "1001", "45", "99"});

@@ -47,56 +47,36 @@ TEST_F(Figures, TheClosingCartoonKeepsItsBackslashesAndQuotes) {
                                   }));
 }
 
-TEST_F(Figures, TheTempleRepeatsItsColumnsFiveTimes) {
+TEST_F(Figures, TheTemplesRepeatTheirColumnsAndThePerspectiveOneIsCut) {
     tetratemple1();
-    const std::string cols = std::string(15, ' ') + "   | |   | |   | |   ";
     ASSERT_EQ(screen().size(), 14u);
     EXPECT_EQ(screen()[1], std::string(15, ' ') + "          O          ");
-    EXPECT_EQ(screen()[5], std::string(15, ' ') + " =================== ");
-    EXPECT_EQ(lines(6, 5), lines_t(5, cols));
-    EXPECT_EQ(screen()[11], std::string(15, ' ') + " =================== ");
+    EXPECT_EQ(lines(6, 5), lines_t(5, std::string(15, ' ') + "   | |   | |   | |   "));
     EXPECT_EQ(screen()[12], std::string(15, ' ') + "=====================");
-}
-
-TEST_F(Figures, ThePerspectiveTempleLosesItsLastColumn) {
+    clear();
     tetratemple2();
     ASSERT_EQ(screen().size(), 18u);
-    const std::string in(13, ' ');
-    EXPECT_EQ(screen()[1], in + "               O         ");
     // The right-hand edge of these lines is cut away.
-    EXPECT_EQ(screen()[5], in + "     /     O           / ");
-    EXPECT_EQ(screen()[11], in + "    | |   | |   | | ||===");
-    EXPECT_EQ(screen()[16], in + "=====================    ");
+    EXPECT_EQ(screen()[5], std::string(13, ' ') + "     /     O           / ");
+    EXPECT_EQ(screen()[11], std::string(13, ' ') + "    | |   | |   | | ||===");
 }
 
 TEST_F(Figures, TheLastDigitOfTheSecondsChoosesTheFigure) {
-    struct pick {
-        char digit;
-        std::string first_line;
-    };
     const std::string cartoon = std::string(4, ' ') + R"(                \|/ ____ \|/    -     -     )";
-    const std::vector<pick> picks = {
-        {'0', std::string(8 + 12, ' ') + "&&&&&&&&&&&&            "},
-        {'1', std::string(21, ' ') + "S A T O R"},
-        {'2', std::string(19, ' ') + "-------------"},
-        {'3', cartoon},
-        {'4', std::string(19 + 6, ' ') + "O      "},
-        {'5', std::string(15 + 10, ' ') + "O          "},
-        {'6', std::string(13 + 15, ' ') + "O         "},
+    const std::pair<char, std::string> picks[] = {
+        {'0', std::string(20, ' ') + "&&&&&&&&&&&&            "}, {'1', std::string(21, ' ') + "S A T O R"},
+        {'2', std::string(19, ' ') + "-------------"},             {'3', cartoon},
+        {'4', std::string(25, ' ') + "O      "},                   {'5', std::string(25, ' ') + "O          "},
+        {'6', std::string(28, ' ') + "O         "},
         {'7', std::string(6, ' ') + "-+                                    +-"},
-        {'8', std::string(6 + 11, ' ') + "+----------------+           "},
-        {'9', std::string(19 + 6, ' ') + "O      "},
-        {'x', cartoon},
-        {' ', cartoon},
-    };
-    for (const auto& p : picks) {
-        SCOPED_TRACE(std::string("digit '") + p.digit + "'");
+        {'8', std::string(17, ' ') + "+----------------+           "}, {'9', std::string(25, ' ') + "O      "},
+        {'x', cartoon},                                             {' ', cartoon}};
+    for (const auto& [digit, first] : picks) {
         clear();
-        tailfigure(p.digit);
-        ASSERT_GE(screen().size(), 3u);
-        EXPECT_EQ(screen()[0], "  ");
-        EXPECT_EQ(screen()[1], p.first_line);
-        EXPECT_EQ(screen().back(), "  ");
+        tailfigure(digit);
+        ASSERT_GE(screen().size(), 3u) << digit;
+        EXPECT_EQ(screen()[1], first) << "digit '" << digit << "'";
+        EXPECT_EQ(screen().back(), "  ") << digit;
     }
 }
 
