@@ -12,9 +12,16 @@ namespace {
 
 constexpr version_block VB_BUFFER2{"buffer2             ", " 2.4", "2019-10-02"};
 
-using convert_fn = void (*)(float*, float*, const float*, const float*, const int&);
+void one_text(float x, float y, std::string_view text, convert_fn convert) {
+    float xd = 0.0f, yd = 0.0f;
+    convert(&xd, &yd, &x, &y, 1);
+    detext2(xd, yd, text);
+}
 
-void sliced_line(const float* x, const float* y, int n, convert_fn convert) {
+}  // namespace
+
+void draw_sliced(const float* x, const float* y, int n, convert_fn convert, slice_fn draw,
+                 void (*between)(int n)) {
     float* xb = pltbuff1.XDEVBUFF.data();
     float* yb = pltbuff1.YDEVBUFF.data();
     int is = 1;
@@ -23,19 +30,12 @@ void sliced_line(const float* x, const float* y, int n, convert_fn convert) {
         buffer2(xb, yb, PLTBUFFSIZE, nb, x, y, n, is);
         if (nb > 0) {
             convert(xb, yb, xb, yb, nb);
-            deline(xb, yb, nb);
+            draw(xb, yb, nb);
         }
         if (is >= n) break;
+        if (between) between(n);
     }
 }
-
-void one_text(float x, float y, std::string_view text, convert_fn convert) {
-    float xd = 0.0f, yd = 0.0f;
-    convert(&xd, &yd, &x, &y, 1);
-    detext2(xd, yd, text);
-}
-
-}  // namespace
 
 void buffer2(float* xb, float* yb, const int& nmax, int& nb, const float* x, const float* y,
              const int& n, int& is) {
@@ -57,9 +57,9 @@ void buffer2(float* xb, float* yb, const int& nmax, int& nb, const float* x, con
     is = last;
 }
 
-void usline(const float* x, const float* y, const int& n) { sliced_line(x, y, n, us2de); }
+void usline(const float* x, const float* y, const int& n) { draw_sliced(x, y, n, us2de, deline); }
 
-void cmline(const float* x, const float* y, const int& n) { sliced_line(x, y, n, cm2de); }
+void cmline(const float* x, const float* y, const int& n) { draw_sliced(x, y, n, cm2de, deline); }
 
 void ustext2(const float& x, const float& y, std::string_view text) { one_text(x, y, text, us2de); }
 

@@ -113,6 +113,14 @@ void sus2de();
 // x(1..n) are passed as a pointer to x(1), and the output may be the input.
 void us2cm(float* xout, float* yout, const float* xin, const float* yin, const int& n);
 void us2de(float* xout, float* yout, const float* xin, const float* yin, const int& n);
+
+// Draws n points in slices of at most PLTBUFFSIZE that share their end
+// points: each slice is converted to device units and handed to draw;
+// between(n), if given, runs between two slices.
+using convert_fn = void (*)(float*, float*, const float*, const float*, const int&);
+using slice_fn = void (*)(float*, float*, const int&);
+void draw_sliced(const float* x, const float* y, int n, convert_fn convert, slice_fn draw,
+                 void (*between)(int n) = nullptr);
 void cm2de(float* xout, float* yout, const float* xin, const float* yin, const int& n);
 void cm2us(float* xout, float* yout, const float* xin, const float* yin, const int& n);
 void lengthcm2de(float& out, const float& in);

@@ -173,23 +173,15 @@ void ussymbol(const float* x, const float* y, const int& n) {
     }
 }
 
+// The pieces are closed each on its own: not the polygon asked for.
+static void polygon_split_warning(int n) {
+    warninghead(VB_USPOLYGON);
+    writef(iocom.isout, "(1x,a,1x,i8)", "Polygone vertices =", n);
+    writef(iocom.isout, "(1x,a,1x,i8)", "Plot buffer size  =", PLTBUFFSIZE);
+    textline("==> Decomposing in smaller polygons");
+    warningtail00();
+}
+
 void uspolygon(const float* x, const float* y, const int& n) {
-    float* xb = pltbuff1.XDEVBUFF.data();
-    float* yb = pltbuff1.YDEVBUFF.data();
-    int is = 1;
-    for (;;) {
-        int nb = 0;
-        buffer2(xb, yb, PLTBUFFSIZE, nb, x, y, n, is);
-        if (nb > 0) {
-            us2de(xb, yb, xb, yb, nb);
-            depolygon(xb, yb, nb);
-        }
-        if (is >= n) break;
-        // The pieces are closed each on its own: not the polygon asked for.
-        warninghead(VB_USPOLYGON);
-        writef(iocom.isout, "(1x,a,1x,i8)", "Polygone vertices =", n);
-        writef(iocom.isout, "(1x,a,1x,i8)", "Plot buffer size  =", PLTBUFFSIZE);
-        textline("==> Decomposing in smaller polygons");
-        warningtail00();
-    }
+    draw_sliced(x, y, n, us2de, depolygon, polygon_split_warning);
 }
