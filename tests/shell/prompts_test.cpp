@@ -100,6 +100,8 @@ TEST_F(Prompts, RealRangeFormatsFollowTheSizeOfTheBounds) {
         {0.f, 360.f, " inside  [   0.00, 360.00]"},
         {0.f, 15000.f, " inside  [      0.0,*******]"},
         {0.f, 1.e8f, " inside  [          0.0, 100000000.]"},
+        // A bare f is f15.7, too narrow for such bounds: as gfortran -fdec writes it.
+        {0.f, 1.e12f, " inside  [              0.    ,***************]"},
     };
     for (const auto& c : cases) {
         clear();
