@@ -1,5 +1,6 @@
 #include "plot/device/psdevice.h"
 
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstring>
@@ -217,14 +218,19 @@ int psnumtext(char* text, float value) {
         std::memcpy(text, f.c, std::size_t(n));
         return n;
     }
+    // to_chars rounds the exact value as printf does, at a fraction of the
+    // cost: this runs for every point of every curve.
     char buf[64];
-    int n = std::snprintf(buf, sizeof buf, "%#*.*f", count, d, double(value));
-    if (n != count) {
+    auto r = std::to_chars(buf, buf + sizeof buf - 1, double(value), std::chars_format::fixed, d);
+    int n = int(r.ptr - buf);
+    if (d == 0) buf[n++] = '.';
+    if (r.ec != std::errc() || n > count) {
         // As a fixed-field write does with a value too wide for its field.
         std::memset(text, '*', std::size_t(count));
         return count;
     }
-    std::memcpy(text, buf, std::size_t(count));
+    std::memset(text, ' ', std::size_t(count - n));
+    std::memcpy(text + (count - n), buf, std::size_t(n));
     return count;
 }
 
