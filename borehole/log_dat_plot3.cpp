@@ -264,13 +264,12 @@ void log_dat_plot3(const int& itop, const int& ibot, const bool& ldata, const bo
             w10[i] = -0.5f * c2[i];
         }
         trackhead("X-Section plot", "Number of data = ", n);
-        int entry = 0;
-        slinecolor(entry, 3);
+        // Unlike the caliper track, this one leaves the C2 colour in force
+        // for the tracks drawn after it.
         setcolour(JCLR(1));
         curve(JWORK9, itop, n);
         setcolour(JCLR(2));
         curve(JWORK10, itop, n);
-        setcolour(entry);
     }
 
     // 6. C1 - C2, with its sign

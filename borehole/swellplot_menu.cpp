@@ -200,10 +200,8 @@ void modifyscaling() {
 
 void orientation() {
     int ierr = 0;
-    textline(DASHED);
     textline("N.B. Exchanging Landscape for Portrait ");
     textline("     will reset all subplots scaling");
-    textline(DASHED);
     bool land = wellplot.llandscape;
     inlogicdef(land, "to use Landscape(1) or Portrait(0) A4", wellplot.llandscape, ierr);
     if (land != wellplot.llandscape) {

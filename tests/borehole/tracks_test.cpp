@@ -146,6 +146,10 @@ TEST_F(Tracks, EachCommandDrawsItsTracksInTheFixedOrder) {
     draw(301);
     EXPECT_EQ(messages(), (lines_t{"C12 plot", "X-Section plot", "P1Azimuth [0, 360] plot"}));
     load(300, std::vector<float>(5, 0.f));
+    // The cross section of 301 left the C2 colour in force; the gauge band
+    // takes whatever colour it finds, here the first again.
+    int first = 1;
+    slinecolor(first, 1);
     draw(320);
     EXPECT_EQ(lines(1, 2), (lines_t{" C12 plot", " Number of data =       5"}));
     EXPECT_EQ(messages().size(), 1u);
@@ -175,6 +179,8 @@ TEST_F(Tracks, CaliperReferenceLinesAndTheirColours) {
     log_dat_plot3(1, n, true, true, true, true, 301);
     EXPECT_EQ(line_colour(4, 37.f), "none");
     EXPECT_EQ(line_colour(3, 0.5f * wellpara.bitsize), colour(1));
+    // The cross section, unlike the calipers, leaves the C2 colour behind.
+    EXPECT_EQ(plt2blk.ilinecol, wellplot.jclrc2);
     // HAZI (400) was drawn as read, the column holds C1 / 2 still; from
     // another origin it is wrapped.
     EXPECT_EQ(w.RWD1(1, JWORK9), 12.5f);

@@ -220,7 +220,13 @@ TEST_F(layout, MenuShowsTheLayoutsAndTurnsThePage) {
                      " |         |   |         |   |         |",
                      " |   25    |   |   24    |   |   23    |"}));
     // Turned to portrait: the flag, the boxes and the stats drawing follow.
-    EXPECT_GT(find(" N.B. Exchanging Landscape for Portrait ", t), t);
+    const int nb = find(" N.B. Exchanging Landscape for Portrait ", t);
+    ASSERT_GT(nb, t);
+    // Two lines of warning, no rules around them, then the question.
+    const std::string dash = " -------------------------------------------";
+    EXPECT_NE(sc[std::size_t(nb - 1)], dash);
+    EXPECT_EQ(sc[std::size_t(nb + 1)], "      will reset all subplots scaling");
+    EXPECT_NE(sc[std::size_t(nb + 2)], dash);
     EXPECT_FALSE(wellplot.llandscape);
     EXPECT_BOX(2, 2.5f, 2.5f, 16.0f, 24.0f);
     EXPECT_BOX(12, 4.3f + 2.4f, 2.5f, 1.2f, 24.0f);
