@@ -88,8 +88,8 @@ void mus2cm2(float& xcm0, float& ycm0, float& xu0, float& yu0, float& xx, float&
         writef(iocom.isout,
                "(1x,'|',a3,'|',3x   ,'|',f7.3,1x,f7.3,'|',3x   ,'|',a3,f7.3,'|',3x   ,'|',f7.3,'|')",
                "xcm", xx, xy, "xu-", xu0, xcm0);
-        // The middle row, with the operators, spaced as the rows around it.
-        writef(iocom.isout, "(1x,'|   |',' = ','|',15x,'|',' * ','|',10x,'|',' + ','|',7x,'|')");
+        // The middle row is the one of mus2cm1, narrow user column and all.
+        writef(iocom.isout, "(1x,'|   |',' = ','|',15x         ,'|',' * ','|  |',' + ','|',7x  ,'|')");
         writef(iocom.isout,
                "(1x,'|',a3,'|',3x   ,'|',f7.3,1x,f7.3,'|',3x   ,'|',a3,f7.3,'|',3x   ,'|',f7.3,'|')",
                "ycm", yx, yy, "yu-", yu0, ycm0);

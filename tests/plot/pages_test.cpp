@@ -146,6 +146,21 @@ TEST_F(pages, BoxMapTakesTheSmallerScaleForBothAxesAndKeepsEachSign) {
     // The fixed point map puts (xu0, yu0) at (xcm0, ycm0).
     float xu0 = 100, yu0 = -20, xx = 0.8f, xy = 0.2f, yx = 0, yy = 0.8f;
     sus2cm2(xcm0, ycm0, xu0, yu0, xx, xy, yx, yy, 1);
+
+    // Its panel: the rows carry the fixed point, the middle row is the one
+    // of the plain matrix panel.
+    float f[8] = {};
+    con.screen.clear();
+    con.type("");
+    sus2cm2(f[0], f[1], f[2], f[3], f[4], f[5], f[6], f[7], 2);
+    auto setup = std::find(con.screen.begin(), con.screen.end(), "             Current set up:");
+    ASSERT_LT(setup + 5, con.screen.end());
+    EXPECT_EQ(lines(setup + 2, setup + 6), (lines{" |xcm|   |  0.800   0.200|   |xu-100.000|   |  3.000|",
+                                                   " |   | = |               | * |  | + |       |",
+                                                   " |ycm|   |  0.000   0.800|   |yu--20.000|   |  4.000|",
+                                                   " =========================================="}));
+    EXPECT_EQ(f[2], 100.0f);
+
     us2cm(&xu0, &yu0, &xu0, &yu0, 1);
     EXPECT_FLOAT_EQ(xu0, 3.0f);
     EXPECT_FLOAT_EQ(yu0, 4.0f);
