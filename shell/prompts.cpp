@@ -70,9 +70,9 @@ void echo_real(float v) {
 
 // The "inside [" / "outside [" line of an integer range, its field widths
 // fitted to the bounds by a format written at run time.
-void int_range_line(std::string_view head, int vmin, int vmax) {
+void int_range_line(const version_block& vb, std::string_view head, int vmin, int vmax) {
     if (std::llabs((long long)vmin) >= 1000000000LL || std::llabs((long long)vmax) >= 1000000000LL) {
-        errorhead(VB_ININTEGVINDEF);
+        errorhead(vb);
         textline("*     *** Format problem ***      *");
         textline("-----------------------------------");
         writef(iocom.isout, "(1x,a,1x,i12)", "ivmin = ", vmin);
@@ -125,7 +125,7 @@ void real_default_line(float value, float def, float vmin, float vmax) {
 void out_of_range_int(const version_block& vb, std::string_view t, int v, int vmin, int vmax) {
     errorhead(vb);
     writef(iocom.isout, "(1x,a,1x,i12)", std::string(t) + " =", v);
-    int_range_line("outside [", vmin, vmax);
+    int_range_line(vb, "outside [", vmin, vmax);
     errortail00();
 }
 
@@ -164,7 +164,7 @@ void integer_prompt(int& value, std::string_view text, const int* def, const int
     for (;;) {
         dotted();
         enter_line(t);
-        if (vmin) int_range_line("inside  [", *vmin, *vmax);
+        if (vmin) int_range_line(vb, "inside  [", *vmin, *vmax);
         int v = value;
         if (def) {
             default_line_int(defv);
@@ -296,14 +296,14 @@ void inchardef(fstr_ref value, std::string_view text, std::string_view def_in, i
 
 namespace {
 
-void logic_help() {
-    submenuhead(VB_INLOGICDEF);
-    textline("   To         type           ");
-    textline("-----------------------------");
-    textline("get help      h or H         ");
-    textline("answer Yes    y or Y or 1    ");
-    textline("answer No     n or N or 0    ");
-    textline("use default   Carriage Return");
+// The help of a yes/no question, in a frame named after the routine that
+// asked, its lines on the unit that routine writes to.
+void logic_help(const version_block& vb, int unit) {
+    submenuhead(vb);
+    for (std::string_view l : {"   To         type           ", "-----------------------------",
+                               "get help      h or H         ", "answer Yes    y or Y or 1    ",
+                               "answer No     n or N or 0    ", "use default   Carriage Return"})
+        writef(unit, "(5(1x,a))", l);
     menutail();
 }
 
@@ -348,7 +348,7 @@ void inlogicdef(bool& value, std::string_view text, bool def, int& ierr) {
                 textline("==> ASKING AGAIN");
                 errortail00();
             }
-            logic_help();
+            logic_help(VB_INLOGICDEF, iocom.isout);
             continue;
         }
         value = a == -1 ? def : a == 1;
@@ -385,7 +385,7 @@ void inlogicdef2(bool& value, std::string_view text, bool def, int iunit, int ou
                 writef(ounit, "(5(1x,a))", "==> WILL ASK QUESTION AGAIN");
                 errortail00();
             }
-            logic_help();
+            logic_help(VB_INLOGICDEF2, ounit);
             continue;
         }
         value = a == -1 ? def : a == 1;

@@ -70,6 +70,20 @@ TEST_F(Prompts, IntegerRangeLineFitsTheBounds) {
     EXPECT_EQ(screen()[std::size_t(f + 1)], " outside [-5,10]");
 }
 
+TEST_F(Prompts, ABoundOfTenDigitsIsAFormatProblemOfThePromptThatAsked) {
+    type({"", "7"});
+    int v = 0, e;
+    inintegvin1(v, "big", 0, 1000000000, e);
+    EXPECT_EQ(v, 7);
+    int f = find(" *     *** Format problem ***      *");
+    ASSERT_EQ(f, 11);
+    EXPECT_EQ(lines(f - 9, 9), error_head_lines("  inintegvin1"));
+    EXPECT_EQ(lines(f + 1, 5), (Lines{" -----------------------------------",
+                                      " ivmin =             0", " ivmax =    1000000000",
+                                      " limited to |iv| < 1 000 000 000",
+                                      " ===> HIT RETURN TO CONTINUE"}));
+}
+
 TEST_F(Prompts, ADefaultOutsideTheRangeIsRefusedToo) {
     type({"", "", "2"});
     int v = 0, e;
@@ -206,6 +220,25 @@ TEST_F(Prompts, HelpIsNoErrorButAWrongAnswerIs) {
                                    " use default   Carriage Return",
                                    " " + std::string(50, '@'),
                                }));
+}
+
+TEST_F(Prompts, TheKeyboardQuestionNamesItselfInItsHelp) {
+    type({"x", "", "h", "n"});
+    bool v = true;
+    int e;
+    inlogicdef2(v, "RESUME", true, 5, 6, e);
+    EXPECT_FALSE(v);
+    EXPECT_EQ(lines(0, 5), (Lines{DOTS, " RESUME ?", " Enter (0/1)(n/y)(N/Y)",
+                                  " or return for default value or h for help", " Default = Yes"}));
+    int w = find(" ==> WILL ASK QUESTION AGAIN");
+    ASSERT_GT(w, 10);
+    EXPECT_EQ(lines(w - 10, 9), error_head_lines("  inlogicdef2"));
+    EXPECT_EQ(screen()[std::size_t(w - 1)], " incorrect answer: x");
+    const std::string head = " @ subroutine inlogicdef2" + std::string(11, ' ') + "v1.0 08-03-2000";
+    EXPECT_EQ(count(head), 2);
+    EXPECT_EQ(count(" use default   Carriage Return"), 2);
+    EXPECT_EQ(screen()[screen().size() - 2], " New value =  No");
+    EXPECT_EQ(screen().back(), DOTS);
 }
 
 TEST_F(Prompts, TextLengths) {
