@@ -20,7 +20,6 @@
 namespace {
 
 using lines_t = std::vector<std::string>;
-const std::string DASH = " -------------------------------------------";
 
 struct LogMenu : WellDialogue {
     void SetUp() override {
@@ -103,10 +102,7 @@ TEST_F(LogMenu, ParameterCommandsAndTheirLinesInTheMenu) {
 TEST_F(LogMenu, EnteringExtendsTheTypeAndHoleParametersRedoTheComputationsOnce) {
     read("200");
     menu({"320", "", "", "320", "", "50", "99", "320", "", "320", "", "500", "99"});
-    EXPECT_EQ(lines(0, 9),
-              (lines_t{DASH, " COMPUTATIONS", DASH, " Total number of data =   8000",
-                       " DATA WITH C1,C2,P1Az", " CASE 2: Extending data type with AzCmax",
-                       " CASE 2.1: with RB", " => Finding Cmax", " => Computing AzCmax & RBCmax"}));
+    EXPECT_EQ(lines(1, 5)[4], " CASE 2: Extending data type with AzCmax");
     EXPECT_GT(find(" | 8| AzCmax          |1| 8|AzCmax.cmptd   |"), 0);
     EXPECT_EQ(count(" Normalizing AzCmax "), 2);
     EXPECT_EQ(count(" COMPUTING:"), 2);
@@ -126,7 +122,7 @@ TEST_F(LogMenu, ADepthIntervalOutsideTheDataLeavesABlankPageAndTriesAgain) {
     const int k = find(" DATA OUT OF RANGE");
     ASSERT_GT(k, 0);
     EXPECT_EQ(lines(k - 4, 4), warning_head_lines("  logplot2   "));
-    EXPECT_EQ(lines(k + 1, 1)[0], " => SKIPPING PLOT");
+    EXPECT_EQ(screen()[std::size_t(k + 1)], " => SKIPPING PLOT");
     EXPECT_EQ(count(" C12 plot"), 1);
     const std::string file = ps();
     const auto page1 = file.find("%%Page:    1    1"), page2 = file.find("%%Page:   2   2");

@@ -1,7 +1,6 @@
 // Replaying answers from a command file.
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <fstream>
 
 #include "dialogue.h"
@@ -11,7 +10,6 @@ namespace {
 
 struct CommandFile : MainMenu {
     void write(const std::string& text) { std::ofstream("cmdfile_test.txt") << text; }
-
 };
 
 TEST_F(CommandFile, AnswersComeFromTheFileUntilItHandsBack) {
@@ -41,22 +39,17 @@ TEST_F(CommandFile, QuitFromTheFileEndsTheRunWithoutConfirmation) {
     EXPECT_EQ(find(" Enter 999 to confirm quit"), -1);
 }
 
-TEST_F(CommandFile, ClosingWhenNoneIsOpenWarns) {
-    type({"5000", "5002", "", "9999"});
+TEST_F(CommandFile, ClosingWhenNoneIsOpenWarnsAndAFileThatDoesNotOpenChangesNothing) {
+    type({"5000", "5002", "", "5000", "5001", "cmdfile_test.txt", "", "0", "", "9999"});
     EXPECT_EQ(run(), 0);
-    int w = find(" NO OPEN COMMAND FILE");
+    const int w = find(" NO OPEN COMMAND FILE");
     ASSERT_GT(w, 0);
     EXPECT_EQ(lines(w - 4, 4), warning_head_lines("    endaltsi2"));
-    EXPECT_EQ(count(" ALTERNATE STANDARD INPUT"), 1);
-}
-
-TEST_F(CommandFile, AFileThatDoesNotOpenChangesNothing) {
-    std::remove("cmdfile_test.txt");
-    type({"5000", "5001", "cmdfile_test.txt", "", "0", "", "9999"});
-    EXPECT_EQ(run(), 0);
-    EXPECT_GT(find(" COULD NOT OPEN COMMAND FILE cmdfile_test.txt"), 0);
+    EXPECT_EQ(count(" ALTERNATE STANDARD INPUT"), 2);
+    EXPECT_GT(find(" COULD NOT OPEN COMMAND FILE cmdfile_test.txt", w), w);
     EXPECT_FALSE(iocom.lcmdopen);
     EXPECT_EQ(iocom.isin, 5);
+    EXPECT_TRUE(con.keys.empty());
 }
 
 TEST_F(CommandFile, StartingASecondFileFromInsideAFileWarns) {

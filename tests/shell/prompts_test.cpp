@@ -16,6 +16,13 @@ using Prompts = Dialogue;
 using Lines = std::vector<std::string>;
 const std::string DOTS = " ..........................................";
 
+// Up to max - 1 characters drawn from alphabet.
+std::string random_text(std::mt19937& rng, std::string_view alphabet, unsigned max) {
+    std::string s(rng() % max, ' ');
+    for (char& ch : s) ch = alphabet[rng() % alphabet.size()];
+    return s;
+}
+
 TEST_F(Prompts, IntegerWithDefaultShowsTheWholeCycle) {
     type({"42"});
     int v = 7, e = -1;
@@ -26,24 +33,14 @@ TEST_F(Prompts, IntegerWithDefaultShowsTheWholeCycle) {
                                " Default =            7", " New value =            42", DOTS}));
 }
 
-TEST_F(Prompts, ReturnOrALeadingBlankTakesTheDefault) {
-    type({"", " 5", "\r"});
-    int v = 0, e;
-    inintegdef(v, "n", 3, e);
-    EXPECT_EQ(v, 3);
-    v = 0;
-    inintegdef(v, "n", 4, e);
-    EXPECT_EQ(v, 4);
+TEST_F(Prompts, ReturnOrALeadingBlankTakesTheDefaultAndTwentyCharactersAreRead) {
+    type({"", " 5", "000000000000000000059", "\r"});
+    int v[3] = {}, e;
+    for (int k = 0; k < 3; ++k) inintegdef(v[k], "n", 3 + k, e);
+    EXPECT_EQ((std::vector<int>(v, v + 3)), (std::vector<int>{3, 4, 5}));
     float r = 0;
     inrealdef(r, "r", 2.5f, e);
     EXPECT_EQ(r, 2.5f);
-}
-
-TEST_F(Prompts, OnlyTheFirstTwentyCharactersOfANumberAreRead) {
-    type({"000000000000000000059"});
-    int v = 0, e;
-    inintegdef(v, "n", 1, e);
-    EXPECT_EQ(v, 5);
 }
 
 TEST_F(Prompts, AFractionIsNotAnIntegerAndTheQuestionComesAgain) {
@@ -84,8 +81,8 @@ TEST_F(Prompts, ABoundOfTenDigitsIsAFormatProblemOfThePromptThatAsked) {
                                       " ===> HIT RETURN TO CONTINUE"}));
 }
 
-TEST_F(Prompts, ADefaultOutsideTheRangeIsRefusedToo) {
-    type({"", "", "2"});
+TEST_F(Prompts, ADefaultOutsideTheRangeIsRefusedAndEqualBoundsAcceptOnlyThatValue) {
+    type({"", "", "2", "4", "", "5"});
     int v = 0, e;
     inintegvindef(v, "k", 9, 1, 3, e);
     EXPECT_EQ(v, 2);
@@ -94,55 +91,36 @@ TEST_F(Prompts, ADefaultOutsideTheRangeIsRefusedToo) {
     ASSERT_GT(f, 9);
     // A name of 13 characters fills its field exactly.
     EXPECT_EQ(lines(f - 9, 9), error_head_lines("inintegvindef"));
-}
-
-TEST_F(Prompts, EqualBoundsAcceptOnlyThatValue) {
-    type({"4", "", "5"});
-    int v = 0, e;
     inintegvindef(v, "k", 5, 5, 5, e);
     EXPECT_EQ(v, 5);
     EXPECT_EQ(count(" inside  [5,5]"), 2);
 }
 
-TEST_F(Prompts, RealRangeFormatsFollowTheSizeOfTheBounds) {
+TEST_F(Prompts, RealRangeAndDefaultFormatsFollowTheSizeOfTheBounds) {
     struct Case {
-        float lo, hi;
-        std::string line;
+        float hi, def;
+        std::string range, def_line;  // "" not checked
     } cases[] = {
-        {0.f, 1.f, " inside  [ 0.000, 1.000]"},
-        {0.f, 90.f, " inside  [  0.000, 90.000]"},
-        {0.f, 360.f, " inside  [   0.00, 360.00]"},
-        {0.f, 15000.f, " inside  [      0.0,*******]"},
-        {0.f, 1.e8f, " inside  [          0.0, 100000000.]"},
+        {1.f, 0.5f, " inside  [ 0.000, 1.000]", " Default =  0.500"},
+        {90.f, 45.f, " inside  [  0.000, 90.000]", " Default =  45.000"},
+        {360.f, 0.f, " inside  [   0.00, 360.00]", ""},
+        // Ties round to even, as everywhere in the formatter.
+        {15000.f, 2500.f, " inside  [      0.0,*******]", " Default =" + std::string(14, ' ') + "0.2E+04"},
+        {1.e8f, 0.f, " inside  [          0.0, 100000000.]", ""},
         // A bare f is f15.7, too narrow for such bounds: as gfortran -fdec writes it.
-        {0.f, 1.e12f, " inside  [              0.    ,***************]"},
+        {1.e12f, 0.f, " inside  [              0.    ,***************]", ""},
     };
     for (const auto& c : cases) {
         clear();
         type({""});
-        float v = c.lo;
+        float v = -1.f;
         int e;
-        inrealvindef(v, "x", c.lo, c.lo, c.hi, e);
-        EXPECT_EQ(screen()[2], c.line) << c.hi;
+        inrealvindef(v, "x", c.def, 0.f, c.hi, e);
+        EXPECT_EQ(v, c.def);
+        EXPECT_EQ(screen()[2], c.range) << c.hi;
+        if (!c.def_line.empty()) EXPECT_EQ(screen()[4], c.def_line) << c.hi;
+        if (c.hi == 1.f) EXPECT_EQ(screen()[5], " New value =  0.500000    ");
     }
-}
-
-TEST_F(Prompts, RealDefaultLineFollowsTheSizeOfItsValues) {
-    type({"", "", ""});
-    float v = 0.5f;
-    int e;
-    inrealvindef(v, "x", v, 0.f, 1.f, e);
-    EXPECT_EQ(screen()[4], " Default =  0.500");
-    EXPECT_EQ(screen()[5], " New value =  0.500000    ");
-    clear();
-    v = 45.f;
-    inrealvindef(v, "x", v, 0.f, 90.f, e);
-    EXPECT_EQ(screen()[4], " Default =  45.000");
-    clear();
-    v = 2500.f;
-    inrealvindef(v, "x", v, 0.f, 15000.f, e);
-    // Ties round to even, as everywhere in the formatter.
-    EXPECT_EQ(screen()[4], " Default =" + std::string(14, ' ') + "0.2E+04");
 }
 
 TEST_F(Prompts, RealOutsideRangeAndNotANumber) {
@@ -211,15 +189,10 @@ TEST_F(Prompts, HelpIsNoErrorButAWrongAnswerIs) {
     EXPECT_EQ(count(" could not read answer to go on"), 0);
     int h = find(" @ subroutine inlogicdef" + std::string(12, ' ') + "v1.4 2024-02-05");
     ASSERT_GT(h, 0);
-    EXPECT_EQ(lines(h + 2, 7), (Lines{
-                                   "    To         type           ",
-                                   " -----------------------------",
-                                   " get help      h or H         ",
-                                   " answer Yes    y or Y or 1    ",
-                                   " answer No     n or N or 0    ",
-                                   " use default   Carriage Return",
-                                   " " + std::string(50, '@'),
-                               }));
+    EXPECT_EQ(lines(h + 2, 7), (Lines{"    To         type           ", " -----------------------------",
+                                      " get help      h or H         ", " answer Yes    y or Y or 1    ",
+                                      " answer No     n or N or 0    ", " use default   Carriage Return",
+                                      " " + std::string(50, '@')}));
 }
 
 TEST_F(Prompts, TheKeyboardQuestionNamesItselfInItsHelp) {
@@ -242,13 +215,10 @@ TEST_F(Prompts, TheKeyboardQuestionNamesItselfInItsHelp) {
 }
 
 TEST_F(Prompts, TextLengths) {
-    int f, l;
+    int f, l, f2, l2;
     textlen(f, l, "                    ");
-    EXPECT_EQ(f, 20);
-    EXPECT_EQ(l, 20);
-    textlen(f, l, "  ab c  ");
-    EXPECT_EQ(f, 3);
-    EXPECT_EQ(l, 6);
+    textlen(f2, l2, "  ab c  ");
+    EXPECT_EQ((std::vector{f, l, f2, l2}), (std::vector{20, 20, 3, 6}));
     int n;
     for (auto [v, c] : {std::pair{0, 1}, {7, 1}, {10, 2}, {999, 3}, {1000, 4}, {-1, 2},
                         {-100, 4}, {123456789, 9}}) {
@@ -257,30 +227,22 @@ TEST_F(Prompts, TextLengths) {
     }
 }
 
-// Value checks at their severities.
-TEST_F(Prompts, ValueCheckInsideSaysNothing) {
+// Value checks at their severities: inside says nothing, 10 resets.
+TEST_F(Prompts, ValueCheckResetsAtGravityTen) {
     int v = 3, r = -1;
     cinvin3(v, 1, 3, "k", "here", 1, r);
     EXPECT_EQ(r, 0);
     EXPECT_TRUE(screen().empty());
-}
-
-TEST_F(Prompts, ValueCheckResetsAtGravityTen) {
     type({""});
-    int v = 12, r = 0;
+    v = 12;
     cinvin3(v, 1, 10, "nbin", "shstnb", 10, r);
     EXPECT_EQ(r, 2);
     EXPECT_EQ(v, 10);
     // The integer check opens an error frame and closes it as a warning.
     EXPECT_EQ(lines(0, 9), error_head_lines("  cinvin3    "));
-    EXPECT_EQ(lines(9, 6), (Lines{
-                               " Problem in subroutine: shstnb",
-                               " Gravity level [0-4]U[10,14] =       10",
-                               " nbin =       12 outside [        1 ,       10 ]",
-                               " nbin =       12 >       10",
-                               " ==> RESET nbin =       10",
-                               " ===> HIT RETURN TO CONTINUE",
-                           }));
+    EXPECT_EQ(lines(9, 6), (Lines{" Problem in subroutine: shstnb", " Gravity level [0-4]U[10,14] =       10",
+                                  " nbin =       12 outside [        1 ,       10 ]", " nbin =       12 >       10",
+                                  " ==> RESET nbin =       10", " ===> HIT RETURN TO CONTINUE"}));
     EXPECT_EQ(screen().back(), " " + std::string(50, '/'));
 
     clear();
@@ -338,30 +300,27 @@ TEST_F(Prompts, MenuHeadsTrimTheVersion) {
 // is still asking when the keyboard runs out.
 TEST_F(Prompts, RandomAnswersNeverBreakAPrompt) {
     std::mt19937 rng(20261121);
-    const std::string alphabet = "0123456789 +-.,eEdD/*'\"\tabcxyYnNh\r";
-    auto random_line = [&] {
-        std::string s;
-        int n = int(rng() % 30);
-        for (int k = 0; k < n; ++k) s.push_back(alphabet[rng() % alphabet.size()]);
-        return s;
-    };
+    auto random_line = [&] { return random_text(rng, "0123456789 +-.,eEdD/*'\"\tabcxyYnNh\r", 30); };
     for (int round = 0; round < 400; ++round) {
         clear();
         con.keys.clear();
         for (int k = 0; k < 6; ++k) type({random_line()});
-        int e = 0;
+        int e = 0, i = 0;
+        float x = 0;
+        fstr<10> c;
+        bool b = false;
         try {
             switch (round % 10) {
-            case 0: { int v = 0; ininteg1(v, "a", e); break; }
-            case 1: { int v = 0; inintegdef(v, "a", 1, e); break; }
-            case 2: { int v = 0; inintegvin1(v, "a", -3, 3, e); EXPECT_TRUE(v >= -3 && v <= 3); break; }
-            case 3: { int v = 0; inintegvindef(v, "a", 0, 0, 9, e); EXPECT_TRUE(v >= 0 && v <= 9); break; }
-            case 4: { float v = 0; inrealdef(v, "a", 1.f, e); break; }
-            case 5: { float v = 0; inrealvindef(v, "a", 1.f, 0.f, 2.f, e); EXPECT_TRUE(v >= 0.f && v <= 2.f); break; }
-            case 6: { fstr<10> v; inchardef(v, "a", "d", e); break; }
-            case 7: { bool v = false; inlogicdef(v, "a", true, e); break; }
-            case 8: { fstr<10> v; inchar1(v, "a", e); break; }
-            case 9: { bool v = false; inlogicdef2(v, "a", true, 5, 6, e); break; }
+            case 0: ininteg1(i, "a", e); break;
+            case 1: inintegdef(i, "a", 1, e); break;
+            case 2: inintegvin1(i, "a", -3, 3, e); EXPECT_TRUE(i >= -3 && i <= 3); break;
+            case 3: inintegvindef(i, "a", 0, 0, 9, e); EXPECT_TRUE(i >= 0 && i <= 9); break;
+            case 4: inrealdef(x, "a", 1.f, e); break;
+            case 5: inrealvindef(x, "a", 1.f, 0.f, 2.f, e); EXPECT_TRUE(x >= 0.f && x <= 2.f); break;
+            case 6: inchardef(c, "a", "d", e); break;
+            case 7: inlogicdef(b, "a", true, e); break;
+            case 8: inchar1(c, "a", e); break;
+            case 9: inlogicdef2(b, "a", true, 5, 6, e); break;
             }
             EXPECT_EQ(e, 0);
         } catch (const console_closed&) {
@@ -374,11 +333,8 @@ TEST_F(Prompts, RandomAnswersNeverBreakAPrompt) {
 // or says it could not.
 TEST_F(Prompts, RandomRecordsNeverBreakTheListReader) {
     std::mt19937 rng(4711);
-    const std::string alphabet = "0123456789 +-.,eEdD/*'\"\tTFtfn(),;";
     for (int round = 0; round < 3000; ++round) {
-        std::string rec;
-        int n = int(rng() % 40);
-        for (int k = 0; k < n; ++k) rec.push_back(alphabet[rng() % alphabet.size()]);
+        const std::string rec = random_text(rng, "0123456789 +-.,eEdD/*'\"\tTFtfn(),;", 40);
         int i = -7;
         float r = -7.f;
         double d = -7.0;

@@ -1,7 +1,6 @@
 // Opening named files: the dialogue, retry, giving up.
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 
@@ -12,22 +11,17 @@
 namespace {
 
 struct FileOpen : Dialogue {
+    fstr<40> name = "fileopen_missing.txt";
     void SetUp() override {
         Dialogue::SetUp();
         std::filesystem::create_directory("sub");
         std::ofstream("fileopen_present.txt") << "x\n";
         std::ofstream("sub/fileopen_present.txt") << "x\n";
-        std::remove("fileopen_missing.txt");
-    }
-    void TearDown() override {
-        Dialogue::TearDown();
-        std::remove("fileopen_present.txt");
     }
 };
 using Lines = std::vector<std::string>;
 
 TEST_F(FileOpen, OpensTheTypedNameAndKeepsItsBaseName) {
-    fstr<40> name = "fileopen_missing.txt";
     type({"sub/fileopen_present.txt"});
     int e = -1;
     opef1(name, "data                ", 12, "old", "read", 0, -1, e);
@@ -43,7 +37,6 @@ TEST_F(FileOpen, OpensTheTypedNameAndKeepsItsBaseName) {
 }
 
 TEST_F(FileOpen, RetryThenProceedWithout) {
-    fstr<40> name = "fileopen_missing.txt";
     // return takes the default name; the pause; 1 retries; then return again,
     // the pause, and 0 gives up.
     type({"", "", "1", "", "", "0"});
@@ -60,32 +53,24 @@ TEST_F(FileOpen, RetryThenProceedWithout) {
     EXPECT_FALSE(unit_is_open(12));
 }
 
-TEST_F(FileOpen, WithoutDialogueAFailureWithSeverityTwoStops) {
-    fstr<40> name = "fileopen_missing.txt";
-    type({""});
-    int e = 0;
-    EXPECT_THROW(opef1(name, "data", 12, "old", "read", 1, 2, e), program_stop);
-    EXPECT_GT(find(" FAILED TO OPEN data FILE"), 0);
-}
-
-TEST_F(FileOpen, SilentOpenWithCodeSeven) {
-    fstr<40> name = "fileopen_missing.txt";
+TEST_F(FileOpen, CodeSevenFailsSilentlyAndWithoutDialogueSeverityTwoStops) {
     int e = 0;
     opef1(name, "data", 12, "old", "read", 7, -1, e);
     EXPECT_EQ(e, 1);
     EXPECT_TRUE(screen().empty());
+    type({""});
+    EXPECT_THROW(opef1(name, "data", 12, "old", "read", 1, 2, e), program_stop);
+    EXPECT_GT(find(" FAILED TO OPEN data FILE"), 0);
 }
 
-TEST_F(FileOpen, OpefTwoAsksUntilANameOpens) {
-    fstr<40> name = "fileopen_missing.txt";
+TEST_F(FileOpen, OpefTwoAsksUntilANameOpensAndStopsWithoutDialogue) {
     type({"", "", "fileopen_present.txt"});
     opef2(name, "data", 12, "old", 0);
     EXPECT_EQ(name, "fileopen_present.txt");
     EXPECT_EQ(count(" ===> RETRYING"), 1);
-}
-
-TEST_F(FileOpen, OpefTwoStopsWithoutDialogue) {
-    fstr<40> name = "fileopen_missing.txt";
+    unit_close(12);
+    name = "fileopen_missing.txt";
+    clear();
     type({""});
     EXPECT_THROW(opef2(name, "data", 12, "old", 2), program_stop);
     EXPECT_GT(find(" ===> STOPPING EXECUTION"), 0);
