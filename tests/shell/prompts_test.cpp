@@ -118,8 +118,12 @@ TEST_F(Prompts, RealRangeAndDefaultFormatsFollowTheSizeOfTheBounds) {
         inrealvindef(v, "x", c.def, 0.f, c.hi, e);
         EXPECT_EQ(v, c.def);
         EXPECT_EQ(screen()[2], c.range) << c.hi;
-        if (!c.def_line.empty()) EXPECT_EQ(screen()[4], c.def_line) << c.hi;
-        if (c.hi == 1.f) EXPECT_EQ(screen()[5], " New value =  0.500000    ");
+        if (!c.def_line.empty()) {
+            EXPECT_EQ(screen()[4], c.def_line) << c.hi;
+        }
+        if (c.hi == 1.f) {
+            EXPECT_EQ(screen()[5], " New value =  0.500000    ");
+        }
     }
 }
 
