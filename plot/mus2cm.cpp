@@ -48,6 +48,16 @@ void ask(float& v, std::string_view text) {
     inrealdef(v, text, v, ierr);
 }
 
+// The origin and matrix of a map, in the order both map panels ask them.
+void ask_map(float& xcm0, float& ycm0, float& xx, float& xy, float& yx, float& yy) {
+    ask(xcm0, "xcm0");
+    ask(ycm0, "ycm0");
+    ask(xx, "xx");
+    ask(xy, "xy");
+    ask(yx, "yx");
+    ask(yy, "yy");
+}
+
 }  // namespace
 
 void mus2cm1(float& xcm0, float& ycm0, float& xx, float& xy, float& yx, float& yy) {
@@ -68,12 +78,7 @@ void mus2cm1(float& xcm0, float& ycm0, float& xx, float& xy, float& yx, float& y
         equals();
     }
     if (!wants_to_alter()) return;
-    ask(xcm0, "xcm0");
-    ask(ycm0, "ycm0");
-    ask(xx, "xx");
-    ask(xy, "xy");
-    ask(yx, "yx");
-    ask(yy, "yy");
+    ask_map(xcm0, ycm0, xx, xy, yx, yy);
 }
 
 void mus2cm2(float& xcm0, float& ycm0, float& xu0, float& yu0, float& xx, float& xy, float& yx,
@@ -96,12 +101,7 @@ void mus2cm2(float& xcm0, float& ycm0, float& xu0, float& yu0, float& xx, float&
         equals();
     }
     if (!wants_to_alter()) return;
-    ask(xcm0, "xcm0");
-    ask(ycm0, "ycm0");
-    ask(xx, "xx");
-    ask(xy, "xy");
-    ask(yx, "yx");
-    ask(yy, "yy");
+    ask_map(xcm0, ycm0, xx, xy, yx, yy);
     textline("USER COORDINATES xu0, yu0 OF THE POINT ");
     textline("THAT WILL BE AT  xcm0,ycm0:");
     ask(xu0, "xu0");
