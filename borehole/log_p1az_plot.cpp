@@ -16,17 +16,16 @@
 
 namespace {
 
-constexpr int DEPTHAXIS = 1;
 constexpr int IWDWRAP = 1;  // IWD1 column that holds the quarter number
 
-struct place {
-    int first, last;  // commands
-    int subplot, frame;
-};
-constexpr place P1AZ360_PLACES[] = {
+constexpr trackplace P1AZ360_PLACES[] = {
     {301, 301, 5, 4}, {302, 303, 6, 4}, {304, 305, 4, 4}, {353, 353, 3, 1},
     {357, 357, 32, 4}, {359, 360, 32, 4},
 };
+// Wrapped from origin 0 as well: P1Az runs past a whole turn as the tool
+// spins.
+constexpr circulartrack P1AZ360_TRACK{P1AZ360_PLACES, AXAZ360, "P1Az [360]",
+                                      "P1Azimuth [0, 360] plot", true};
 
 // What ends a piece at row i (of the piece that starts at row a).
 enum class breaktest { quarter, jump };
@@ -73,12 +72,11 @@ void log_p1az_plot(const int& itop, const int& ibot, const int& icmd) {
     const int jaz = w.JCOL(w.jp1az);
     const int i0 = itop - 1;
     const float* p1az = w.RWD1.col(jaz) + i0;
-    float* w9 = w.RWD1.col(JWORK9) + i0;
-    const float* depth = w.RWD1.col(w.JCOL(w.jdepth)) + i0;
+    float* w9 = trackcolumn(JWORK9, itop);
 
     // 1. Folded on a quarter turn, one loop per quarter.
     if (icmd == 302 || icmd == 303) {
-        slogbox(5, 2, DEPTHAXIS, 4, "P1Az [90]");
+        slogbox(5, AXAZ90, AXDEPTH, 4, "P1Az [90]");
         int* q = w.IWD1.col(IWDWRAP) + i0;
         for (int i = 0; i < n; ++i) {
             // An exact negative multiple of 90 falls a quarter too low and
@@ -97,7 +95,7 @@ void log_p1az_plot(const int& itop, const int& ibot, const int& icmd) {
     // 2. Folded on a half turn from the AzCmax origin, cut where two
     // neighbours lie more than half the period apart.
     if (icmd == 361 || icmd == 362) {
-        slogbox(37, 14, DEPTHAXIS, 4, "Azimuth [180]");
+        slogbox(37, AXAZCMAXCAT, AXDEPTH, 4, "Azimuth [180]");
         const float period = 180.0f;
         modulro(w9, p1az, period, p.azcmaxorig, n);
         trackhead("P1Azimuth [azcmx0, azcmx0+180 [ offset loop plot", "Total number of data = ",
@@ -106,15 +104,5 @@ void log_p1az_plot(const int& itop, const int& ibot, const int& icmd) {
     }
 
     // 3. Wrapped on a whole turn, one curve: here the jumps cross the box.
-    for (const place& at : P1AZ360_PLACES) {
-        if (icmd < at.first || icmd > at.last) continue;
-        const int iaxis = 7;
-        trackaxisrange(iaxis, p.azorig, p.azorig + 360.0f);
-        slogbox(at.subplot, iaxis, DEPTHAXIS, at.frame, "P1Az [360]");
-        trackhead("P1Azimuth [0, 360] plot", "Number of data = ", n);
-        const float period = 360.0f;
-        modulro(w9, p1az, period, p.azorig, n);
-        usline(w9, depth, n);
-        break;
-    }
+    drawcircular(P1AZ360_TRACK, jaz, p.azorig, itop, n, icmd);
 }

@@ -186,29 +186,20 @@ void pageframe(int icmd, int itop, int ibot, bool ldata, bool lcal) {
     const welldat_t& w = welldat;
     const wellpara_t& p = wellpara;
     if (ldata) {
-        float usa1, usa2, wau1, wau2, waud, walas;
-        fstr<AXLABLEN> walab;
-        int nawdig, nasubint, nlabintk;
-        const int depthaxis = 1;
-        s1axis1(usa1, usa2, wau1, wau2, waud, walas, walab, nawdig, nasubint, nlabintk, depthaxis,
-                3);
-        usa1 = wau1 = p.ztop;
-        usa2 = wau2 = p.zbot;
-        walab = w.NAMVAR(w.jdepth);
-        s1axis1(usa1, usa2, wau1, wau2, waud, walas, walab, nawdig, nasubint, nlabintk, depthaxis,
-                1);
+        axisedit a(AXDEPTH);
+        a.usa1 = a.wau1 = p.ztop;
+        a.usa2 = a.wau2 = p.zbot;
+        a.walab = w.NAMVAR(w.jdepth);
     }
     if (lcal) {
-        trackaxisrange(3, p.azcmaxorig, p.azcmaxorig + 180.0f);
-        trackaxisrange(14, p.azcmaxorig, p.azcmaxorig + 180.0f);
+        trackaxisrange(AXAZCMAXTEST, p.azcmaxorig, p.azcmaxorig + 180.0f);
+        trackaxisrange(AXAZCMAXCAT, p.azcmaxorig, p.azcmaxorig + 180.0f);
     }
 
     const bool land = wellplot.llandscape;
     const float y = land ? 20.0f : 29.0f;
-    int entryalign = 0, align = 0;
-    stextalign(entryalign, 3);
-
-    align = -2;
+    attributekept<int> entryalign(stextalign);
+    int align = -2;
     stextalign(align, 1);
     cmplotruninfo2(land ? 15.0f : 10.5f, y);
 
@@ -247,7 +238,6 @@ void pageframe(int icmd, int itop, int ibot, bool ldata, bool lcal) {
                             x, y);
         }
     }
-    stextalign(entryalign, 1);
 }
 
 }  // namespace
@@ -268,14 +258,11 @@ void logplot2(const int& intera) {
 
     // Entering: box 1 across the AzCmax scale and down the depth.
     {
-        int bx = 0, by = 0, left = 0, right = 0, bottom = 0, top = 0, iclip = 0, izero = 0;
-        fstr<BOXLABLEN> label;
-        s1bx2d(bx, by, left, right, bottom, top, iclip, izero, label, 1, 3);
-        bx = 3;
-        by = 1;
-        left = right = bottom = top = 1;
-        label = "log plot";
-        s1bx2d(bx, by, left, right, bottom, top, iclip, izero, label, 1, 1);
+        boxedit b;
+        b.ix = AXAZCMAXTEST;
+        b.iy = AXDEPTH;
+        b.left = b.right = b.bottom = b.top = 1;
+        b.label = "log plot";
     }
     // The symbols of the tracks are the log's own; those in force come back
     // on leaving.

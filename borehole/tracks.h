@@ -1,17 +1,31 @@
-// The track routines of a log page. logplot2 calls every one of them on
-// every pass of its menu with the command number last; each decides by the
-// number alone what it draws and where, so one pass draws a whole page.
-// They read the well data and the results of the derived quantities, and
-// write only the work columns of welldat.
+// The track routines of a log page and the helpers they share.
+//
+// logplot2 calls every track routine on every pass of its menu with the
+// command number last; each decides by the number alone what it draws and
+// where, so one pass draws a whole page. They read the well data and the
+// results of the derived quantities, and write only the work columns of
+// welldat.
+//
+// A track file includes this header only (it brings slogbox and the axis
+// set names of wellplot.h along). The usual shape of a track:
+//
+//   constexpr trackplace MY_PLACES[] = {{320, 320, 5, 4}, {350, 351, 9, 1}};
+//   if (const trackplace* at = trackplaceof(MY_PLACES, icmd)) {
+//       slogbox(at->subplot, AXDC, AXDEPTH, at->frame, "label");
+//       trackhead("label plot", "Number of data = ", n);
+//       trackcurve(JWORK9, itop, n);
+//   }
 #pragma once
 
+#include <span>
 #include <string_view>
 
-// Work columns of RWD1 that the tracks fill for drawing. Rows 1 and 2 of
-// columns 9 and 10 also carry the two points of a reference line.
-inline constexpr int JWORK9 = 9;
-inline constexpr int JWORK10 = 10;
-inline constexpr int JWORK11 = 11;
+#include "borehole/wellplot.h"
+#include "plot/axes/axes.h"
+#include "shell/fixed.h"
+
+// ---------------------------------------------------------------------------
+// The track routines, in the order logplot2 calls them.
 
 // The tracks of the measured and derived quantities: AzCmax, the AzCmax -
 // |DC| cross plot (101), the calipers, Cmin and Cmax, the cross section,
@@ -24,12 +38,125 @@ void log_dat_plot3(const int& itop, const int& ibot, const bool& ldata, const bo
 // curve (301 to 305, 353, 357, 359, 360). Called only with the calipers.
 void log_p1az_plot(const int& itop, const int& ibot, const int& icmd);
 
-// Helpers the tracks share.
+// ---------------------------------------------------------------------------
+// Work columns of RWD1 that the tracks fill for drawing. Rows 1 and 2 of
+// columns 9 and 10 also carry the two points of a reference line.
+inline constexpr int JWORK9 = 9;
+inline constexpr int JWORK10 = 10;
+inline constexpr int JWORK11 = 11;
 
-// The console head of a track: a rule, the message, the count with its
-// text ("Number of data = " or "Total number of data = "), a rule.
+// ---------------------------------------------------------------------------
+// Places: where a track goes for a range of commands.
+
+struct trackplace {
+    int first, last;    // commands first to last
+    int subplot, frame; // the box, and the frame code slogbox takes
+};
+
+// The place of icmd in a table; nullptr when the track isn't on that page.
+const trackplace* trackplaceof(std::span<const trackplace> table, int icmd);
+
+// ---------------------------------------------------------------------------
+// Drawing in the box slogbox made current (user units: the track's axis
+// set across, depth down).
+
+// Column j of RWD1 from row itop on.
+float* trackcolumn(int j, int itop);
+// Rows itop .. itop + n - 1 of column j against depth, as a line.
+void trackcurve(int j, int itop, int n);
+// The same rows as symbols of the type and size in force.
+void tracksymbols(int j, int itop, int n);
+// A vertical line at x over the whole depth range of the box.
+void trackrefline(float x);
+
+// The console head of a track, the count frame: a rule, the message, the
+// count with its text ("Number of data = " or "Total number of data = "),
+// a rule.
 void trackhead(std::string_view message, std::string_view counttext, int n);
+
 // Gives axis set iaxis the range [first, last], as scale and as labels.
 void trackaxisrange(int iaxis, float first, float last);
-// A vertical line at x over the whole depth range of the current box.
-void trackrefline(float x);
+
+// ---------------------------------------------------------------------------
+// A circular quantity (HAZI, RB, P1Az) on [origin, origin + 360): the axis
+// set gets that range, the curve is wrapped into work column 9 and drawn
+// as one line, so a curve that passes the range's end jumps across the box.
+
+struct circulartrack {
+    std::span<const trackplace> places;
+    int iaxis;
+    std::string_view label;    // on the axis set
+    std::string_view message;  // of the count frame
+    bool wrapatzero;           // false: from origin 0 the column is drawn as read
+};
+
+// Draws column j of rows itop .. itop + n - 1 if icmd has a place in the
+// track's table; true if it drew.
+bool drawcircular(const circulartrack& t, int j, float origin, int itop, int n, int icmd);
+
+// ---------------------------------------------------------------------------
+// Changing a stored set-up: the constructor fetches the stored fields
+// (mode 3), the caller changes the ones it needs, and leaving the scope
+// stores them all back (mode 1). For example
+//
+//   { axisedit a(AXAZCMAXTEST); a.walab = "AzCmax[180]"; }
+
+template <class Fields>
+class scoped_edit : public Fields {
+public:
+    template <class... A>
+    explicit scoped_edit(A... a) : Fields(a...) {
+        Fields::access(3);
+    }
+    ~scoped_edit() { Fields::access(1); }
+    scoped_edit(const scoped_edit&) = delete;
+    scoped_edit& operator=(const scoped_edit&) = delete;
+};
+
+// One axis set (s1axis1).
+struct axis_fields {
+    explicit axis_fields(int i) : iaxis(i) {}
+    int iaxis;
+    float usa1 = 0, usa2 = 0, wau1 = 0, wau2 = 0, waud = 0, walas = 0;
+    fstr<AXLABLEN> walab;
+    int nawdig = 0, nasubint = 0, nlabintk = 0;
+    void access(int mode);
+};
+using axisedit = scoped_edit<axis_fields>;
+
+// Box 1 (s1bx2d).
+struct box_fields {
+    int ix = 0, iy = 0, left = 0, right = 0, bottom = 0, top = 0, iclip = 0, izero = 0;
+    fstr<BOXLABLEN> label;
+    void access(int mode);
+};
+using boxedit = scoped_edit<box_fields>;
+
+// The map of the current subplot (sus2cm3).
+struct map_fields {
+    float xcm0 = 0, ycm0 = 0, xlcm = 0, ylcm = 0, xumin = 0, xumax = 0, yumin = 0, yumax = 0;
+    int ixy = 0;
+    void access(int mode);
+};
+using mapedit = scoped_edit<map_fields>;
+
+// An attribute kept for a scope: the value in force is read on
+// construction (mode 3) and set again on leaving (mode 1), whatever the
+// scope set in between. For example
+//
+//   attributekept<int> colour(slinecolor);  ...  colour.entry()
+template <class T>
+class attributekept {
+public:
+    using setter = void (*)(T&, const int&);
+    explicit attributekept(setter set) : set_(set) { set_(entry_, 3); }
+    ~attributekept() { set_(entry_, 1); }
+    attributekept(const attributekept&) = delete;
+    attributekept& operator=(const attributekept&) = delete;
+    // The value found on entry.
+    T entry() const { return entry_; }
+
+private:
+    setter set_;
+    T entry_{};
+};

@@ -2,6 +2,7 @@
 // set defaults and the layout menu, is in swellplot_menu.cpp.
 #include "borehole/wellplot.h"
 
+#include "borehole/tracks.h"
 #include "plot/axes/axes.h"
 #include "plot/pages.h"
 
@@ -107,33 +108,23 @@ void slogbox(const int& isubplot, const int& ixaxis, const int& iyaxis, const in
     // The label stays on the axis set: the next track that takes the set
     // without a label of its own shows it.
     {
-        float usa1 = 0, usa2 = 0, wau1 = 0, wau2 = 0, waud = 0, walas = 0;
-        fstr<AXLABLEN> walab;
-        int nawdig = 0, nasubint = 0, nlabintk = 0;
-        s1axis1(usa1, usa2, wau1, wau2, waud, walas, walab, nawdig, nasubint, nlabintk, ixaxis, 3);
-        walab = label;
-        s1axis1(usa1, usa2, wau1, wau2, waud, walas, walab, nawdig, nasubint, nlabintk, ixaxis, 1);
+        axisedit a(ixaxis);
+        a.walab = label;
     }
     {
-        int ix = 0, iy = 0, left = 0, right = 0, bottom = 0, top = 0, iclip = 0, izero = 0;
-        fstr<BOXLABLEN> boxlabel;
-        s1bx2d(ix, iy, left, right, bottom, top, iclip, izero, boxlabel, 1, 3);
-        ix = ixaxis;
-        iy = iyaxis;
-        frameborders(iframe, left, right);
-        s1bx2d(ix, iy, left, right, bottom, top, iclip, izero, boxlabel, 1, 1);
+        boxedit b;
+        b.ix = ixaxis;
+        b.iy = iyaxis;
+        frameborders(iframe, b.left, b.right);
     }
     int nsub = isubplot;
     ssubplot(nsub, 1);
     {
-        float xcm0 = 0, ycm0 = 0, xlcm = 0, ylcm = 0, xumin = 0, xumax = 0, yumin = 0, yumax = 0;
-        int ixy = 0;
-        sus2cm3(xcm0, ycm0, xlcm, ylcm, xumin, xumax, yumin, yumax, ixy, 3);
-        g1axbd(xumin, xumax, ixaxis);
+        mapedit m;
+        g1axbd(m.xumin, m.xumax, ixaxis);
         // The vertical set runs down the box: its first bound at the top,
         // as depth does on a log.
-        g1axbd(yumax, yumin, iyaxis);
-        sus2cm3(xcm0, ycm0, xlcm, ylcm, xumin, xumax, yumin, yumax, ixy, 1);
+        g1axbd(m.yumax, m.yumin, iyaxis);
     }
     if (iframe != 0) d1bx2d(1);
 }

@@ -19,6 +19,23 @@
 
 #include "shell/frames.h"
 
+// The axis sets by name.
+inline constexpr int AXDEPTH = 1;
+inline constexpr int AXAZ90 = 2;
+inline constexpr int AXAZCMAXTEST = 3;  // AzCmax [180] of the test pages
+inline constexpr int AXDIAMETER = 4;
+inline constexpr int AXDC = 5;
+inline constexpr int AXABSDC = 6;
+inline constexpr int AXAZ360 = 7;
+inline constexpr int AXROTATION = 8;
+inline constexpr int AXPERCENT = 9;
+inline constexpr int AXHAZI = 10;
+inline constexpr int AXDEVI = 11;
+inline constexpr int AXRB = 12;
+inline constexpr int AXRBCMAX = 13;
+inline constexpr int AXAZCMAXCAT = 14;  // AzCmax [180] of the category pages
+inline constexpr int AXXSECTION = 15;
+
 struct wellplot_t {
     bool llandscape;  // landscape page if true, portrait if false
     int jclrc1;       // line colour of the C1 curve

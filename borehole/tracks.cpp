@@ -1,0 +1,75 @@
+// Helpers shared by the track routines.
+#include "borehole/tracks.h"
+
+#include "math/angles.h"
+#include "plot/pages.h"
+#include "plot/symbols.h"
+#include "shell/format.h"
+#include "shell/frames.h"
+#include "shell/sio.h"
+#include "well/welldat.h"
+
+const trackplace* trackplaceof(std::span<const trackplace> table, int icmd) {
+    for (const trackplace& p : table)
+        if (icmd >= p.first && icmd <= p.last) return &p;
+    return nullptr;
+}
+
+float* trackcolumn(int j, int itop) { return welldat.RWD1.col(j) + (itop - 1); }
+
+void trackcurve(int j, int itop, int n) {
+    usline(trackcolumn(j, itop), trackcolumn(welldat.JCOL(welldat.jdepth), itop), n);
+}
+
+void tracksymbols(int j, int itop, int n) {
+    ussymbol(trackcolumn(j, itop), trackcolumn(welldat.JCOL(welldat.jdepth), itop), n);
+}
+
+void trackrefline(float x) {
+    float* xs = welldat.RWD1.col(JWORK9);
+    float* ys = welldat.RWD1.col(JWORK10);
+    g1axbd(ys[0], ys[1], AXDEPTH);
+    xs[0] = xs[1] = x;
+    usline(xs, ys, 2);
+}
+
+void trackhead(std::string_view message, std::string_view counttext, int n) {
+    textline(DASHED);
+    textline(message);
+    writef(iocom.isout, "(1x,a,1x,i6)", counttext, n);
+    textline(DASHED);
+}
+
+void trackaxisrange(int iaxis, float first, float last) {
+    axisedit a(iaxis);
+    a.usa1 = a.wau1 = first;
+    a.usa2 = a.wau2 = last;
+}
+
+bool drawcircular(const circulartrack& t, int j, float origin, int itop, int n, int icmd) {
+    const trackplace* at = trackplaceof(t.places, icmd);
+    if (!at) return false;
+    trackaxisrange(t.iaxis, origin, origin + 360.0f);
+    slogbox(at->subplot, t.iaxis, AXDEPTH, at->frame, t.label);
+    trackhead(t.message, "Number of data = ", n);
+    if (origin == 0.0f && !t.wrapatzero) {
+        trackcurve(j, itop, n);
+        return true;
+    }
+    const float period = 360.0f;
+    modulro(trackcolumn(JWORK9, itop), trackcolumn(j, itop), period, origin, n);
+    trackcurve(JWORK9, itop, n);
+    return true;
+}
+
+void axis_fields::access(int mode) {
+    s1axis1(usa1, usa2, wau1, wau2, waud, walas, walab, nawdig, nasubint, nlabintk, iaxis, mode);
+}
+
+void box_fields::access(int mode) {
+    s1bx2d(ix, iy, left, right, bottom, top, iclip, izero, label, 1, mode);
+}
+
+void map_fields::access(int mode) {
+    sus2cm3(xcm0, ycm0, xlcm, ylcm, xumin, xumax, yumin, yumax, ixy, mode);
+}
