@@ -14,6 +14,7 @@
 #include "plot/pages.h"
 #include "shell/format.h"
 #include "shell/frames.h"
+#include "shell/intera.h"
 #include "shell/prompts.h"
 #include "shell/runinfo.h"
 #include "shell/sio.h"
@@ -244,7 +245,7 @@ void pageframe(int icmd, int itop, int ibot, bool ldata, bool lcal) {
 
 void logplot2(const int& intera) {
     logsaved_t& s = logsaved;
-    if (intera == 4 || intera == 5) {
+    if (mode_resets(intera)) {
         submenuhead(VB_LOGPLOT2);
         line("INITIALIZING LOG PLOT PARAMETERS");
         s = logsaved_t{"log.ps", 0, 66, 66, 5, 0.2f};

@@ -8,6 +8,7 @@
 #include "plot/pages.h"
 #include "shell/format.h"
 #include "shell/frames.h"
+#include "shell/intera.h"
 #include "shell/prompts.h"
 #include "shell/sio.h"
 
@@ -213,7 +214,7 @@ void orientation() {
 }  // namespace
 
 void swellplot(const int& intera) {
-    if (intera == 4 || intera == 5) {
+    if (mode_resets(intera)) {
         submenuhead(VB_SWELLPLOT);
         textline("INITIALIZING PLOT SCALING, ATTRIBUTES & AXES");
         wellplot.llandscape = true;
@@ -221,9 +222,9 @@ void swellplot(const int& intera) {
         wellplot.jclrc2 = 4;
         swellsubplot();
         snaxis(5);
-        swellaxes(intera % 2 == 0 ? 0 : 1);
+        swellaxes(mode_talks(intera) ? 0 : 1);
     }
-    if (intera % 2 != 0) return;
+    if (mode_silent(intera)) return;
 
     int ierr = 0;
     for (;;) {

@@ -3,6 +3,7 @@
 #include "plot/attributes_internal.h"
 #include "plot/device/psdevice.h"
 #include "plot/pages.h"
+#include "shell/intera.h"
 #include "shell/prompts.h"
 #include "shell/textlen.h"
 
@@ -52,7 +53,7 @@ void colour_setter(int& value, const int& inter, const version_block& vb, int& f
         textline(initline, trimmed(pltcharblk.COLORNAM(value)));
     }
     if (inter == 3) return;
-    if (inter % 2 == 0) {
+    if (mode_talks(inter)) {
         panel_head(vb, title);
         if (iocom.LWITO(2)) {
             writef(iocom.isout, "(1x,a,1x,i3,1x,a)", "current value:", field,
@@ -135,7 +136,7 @@ void colour_list() {
 void slinewidth(float& value, const int& inter) {
     const version_block& vb = VB_SLINEWIDTH;
     if (!attr_source(value, plt2blk.linewidcm, 0.02f, inter, vb, send_linewidth)) return;
-    if (inter <= 1 && (value <= 0.01f || value > 1000.0f)) {
+    if (mode_from_caller(inter) && (value <= 0.01f || value > 1000.0f)) {
         warninghead(vb);
         line("LINE THICKNESS OUT OF RANGE:");
         real_line(" line thickness (cm) =", value);
@@ -150,7 +151,7 @@ void slinewidth(float& value, const int& inter) {
         writef(iocom.isout, "(1x,a,1x,f8.3,1x,a)", "INITIALISING LINE THICKNESS TO:", value, "cm");
     }
     if (inter == 3) return;
-    if (inter % 2 == 0) {
+    if (mode_talks(inter)) {
         panel_head(vb, "          LINE THICKNESS");
         if (iocom.LWITO(2)) {
             writef(iocom.isout, "(1x,a,f8.3)", "present value in cm ....... ", plt2blk.linewidcm);
@@ -187,14 +188,14 @@ void stextcolor(int& value, const int& inter) {
 void sfillstyle(int& value, const int& inter) {
     const version_block& vb = VB_SFILLSTYLE;
     if (!attr_source(value, plt2blk.ifillsty, 1, inter, vb, nothing_to_send)) return;
-    if (inter <= 1 && value < 0) {
+    if (mode_from_caller(inter) && value < 0) {
         warninghead(vb);
         int_line("trying to set nb of style  =", value);
         line("min style nb = 0");
         value = 1;
         int_line("===> RESET style nb =", value);
         warningtail00();
-    } else if (inter <= 1 && value > 1) {
+    } else if (mode_from_caller(inter) && value > 1) {
         warninghead(vb);
         int_line("trying to set style nb =", value);
         int_line("max style nb =", 1);
@@ -207,7 +208,7 @@ void sfillstyle(int& value, const int& inter) {
         line("INITIALISING FILL STYLE TO: filled");
     }
     if (inter == 3) return;
-    if (inter % 2 == 0) {
+    if (mode_talks(inter)) {
         panel_head(vb, "     POLYGON FILL STYLES");
         if (iocom.LWITO(2)) {
             int_line("currently stored   :", plt2blk.ifillsty);
@@ -227,7 +228,7 @@ void sfillstyle(int& value, const int& inter) {
 void stextfont(int& value, const int& inter) {
     const version_block& vb = VB_STEXTFONT;
     if (!attr_source(value, plt2blk.ifont, 1, inter, vb, send_textfont)) return;
-    if (inter <= 1 && (value < 1 || value > 16)) {
+    if (mode_from_caller(inter) && (value < 1 || value > 16)) {
         warninghead(vb);
         int_line("trying to set font number =", value);
         line("font number must be in [1,16]");
@@ -240,7 +241,7 @@ void stextfont(int& value, const int& inter) {
         line("INITIALISING TEXT FONT TO: 1 = Helvetica");
     }
     if (inter == 3) return;
-    if (inter % 2 == 0) {
+    if (mode_talks(inter)) {
         static const char* const fonts[16] = {
             "Helvetica...............................1", "Helvetica-Bold..........................2",
             "Helvetica-Oblique.......................3", "Helvetica-BoldOblique...................4",
@@ -268,7 +269,7 @@ void stextfont(int& value, const int& inter) {
 void stextsize(float& value, const int& inter) {
     const version_block& vb = VB_STEXTSIZE;
     if (!attr_source(value, plt2blk.textsizcm, 0.5f, inter, vb, send_textsize)) return;
-    if (inter <= 1 && (value <= 0.02f || value > 1000.0f)) {
+    if (mode_from_caller(inter) && (value <= 0.02f || value > 1000.0f)) {
         warninghead(vb);
         line("TEXT HEIGHT (cm) OUT OF RANGE:");
         real_line(" text height =", value);
@@ -283,7 +284,7 @@ void stextsize(float& value, const int& inter) {
         writef(iocom.isout, "(1x,a,1x,f8.3,1x,a)", "INITIALISING TEXT SIZE TO:", value, "cm");
     }
     if (inter == 3) return;
-    if (inter % 2 == 0) {
+    if (mode_talks(inter)) {
         panel_head(vb, "                TEXT SIZE");
         if (iocom.LWITO(2)) {
             writef(iocom.isout, "(1x,a,f8.3)", "present value in cm .......... ", plt2blk.textsizcm);
@@ -300,7 +301,7 @@ void stextsize(float& value, const int& inter) {
 void stextalign(int& value, const int& inter) {
     const version_block& vb = VB_STEXTALIGN;
     if (!attr_source(value, plt2blk.ijustif, -1, inter, vb, nothing_to_send)) return;
-    if (inter <= 1 && (value < -11 || value > 11)) {
+    if (mode_from_caller(inter) && (value < -11 || value > 11)) {
         warninghead(vb);
         int_line("trying to set justif =", value);
         line("justif must be in [-11,11]");
@@ -322,7 +323,7 @@ void stextalign(int& value, const int& inter) {
         line("=====> left-bottom trimmed");
     }
     if (inter == 3) return;
-    if (inter % 2 == 0) {
+    if (mode_talks(inter)) {
         submenuhead(vb);
         if (iocom.LWITO(2)) {
             static const char* const panel[] = {
@@ -362,7 +363,7 @@ void stextangle(float& value, const int& inter) {
         line("INITIALISING TEXT ANGLE TO: 0.0");
     }
     if (inter == 3) return;
-    if (inter % 2 == 0) {
+    if (mode_talks(inter)) {
         panel_head(vb, "         TEXT ANGLE (degrees)");
         if (iocom.LWITO(2)) {
             writef(iocom.isout, "(1x,a,1x,f8.2)", "currently stored   :", plt2blk.textangle);
@@ -383,18 +384,18 @@ void ssymboltype(int& value, const int& inter) {
         return;
     }
     if (inter != 200) {
-        if (inter < 0 || inter > 5) {
+        if (!mode_known(inter)) {
             bad_inter(vb, inter, "");
             return;
         }
-        if (inter == 2 || inter == 3) value = plt2blk.isymtype;
-        if (inter == 4 || inter == 5) value = 1;
+        if (mode_from_store(inter)) value = plt2blk.isymtype;
+        if (mode_resets(inter)) value = 1;
         if (inter == 5) {
             submenuhead(vb);
             int_line("INITIALISING SYMBOL TYPE =", value);
         }
     }
-    if (inter % 2 == 0) {
+    if (mode_talks(inter)) {
         submenuhead(vb);
         if (iocom.LWITO(2)) {
             rule();
@@ -422,17 +423,17 @@ void ssymboltype(int& value, const int& inter) {
 
 void ssymbolsize(float& value, const int& inter) {
     const version_block& vb = VB_SSYMBOLSIZE;
-    if (inter < 0 || inter > 5) {
+    if (!mode_known(inter)) {
         bad_inter(vb, inter, "");
         return;
     }
-    if (inter == 2 || inter == 3) value = plt2blk.symsizcm;
-    if (inter == 4 || inter == 5) value = 0.4f;
+    if (mode_from_store(inter)) value = plt2blk.symsizcm;
+    if (mode_resets(inter)) value = 0.4f;
     if (inter == 5) {
         submenuhead(vb);
         writef(iocom.isout, "(1x,a,1x,f8.3)", "INITIALISING SYMBOL SIZE (cm) =", value);
     }
-    if (inter % 2 == 0) {
+    if (mode_talks(inter)) {
         panel_head(vb, "SYMBOL SIZE (cm):");
         if (iocom.LWITO(2)) {
             writef(iocom.isout, "(1x,a,1x,f8.3)", "currently stored size =", plt2blk.symsizcm);

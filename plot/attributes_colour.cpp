@@ -4,6 +4,7 @@
 #include "plot/attributes.h"
 #include "plot/attributes_internal.h"
 #include "shell/format.h"
+#include "shell/intera.h"
 #include "shell/prompts.h"
 #include "shell/textlen.h"
 #include "shell/units.h"
@@ -45,7 +46,7 @@ fstr<250> colour_file = "colortable.txt";
 void apply_nb(int ncol, int inter) {
     // One colour means a black and white plot.
     plt2blk.lcolor = ncol == 1 ? 0 : 1;
-    if (inter % 2 == 0 || inter == 5) {
+    if (mode_talks(inter) || inter == 5) {
         int_line("NB of colors =", ncol);
         line(plt2blk.lcolor == 0 ? "==> Black & White plot" : "==> Color plot");
     }
@@ -162,7 +163,7 @@ void scolornb(int& ncol, const int& inter) {
     default: bad_inter(vb, inter, "Accepted range = [0,5]"); return;
     }
 
-    if (inter % 2 == 0) {
+    if (mode_talks(inter)) {
         int ierr = 0;
         for (;;) {
             submenuhead(vb);
@@ -227,7 +228,7 @@ void scolorrgb(int& index, fstr_ref name, float& red, float& green, float& blue,
     default: bad_inter(vb, inter, "Accepted range = [0,5]"); return;
     }
 
-    if (inter % 2 == 0) {
+    if (mode_talks(inter)) {
         int ierr = 0;
         fstr<80> newname = name.sv();
         for (;;) {
@@ -277,11 +278,11 @@ void scolorrgb(int& index, fstr_ref name, float& red, float& green, float& blue,
 
 void scolortable(const int& inter) {
     const version_block& vb = VB_SCOLORTABLE;
-    if (inter < 0 || inter > 5) {
+    if (!mode_known(inter)) {
         bad_inter(vb, inter, "Accepted range = [0,5]");
         return;
     }
-    if (inter == 4 || inter == 5) {
+    if (mode_resets(inter)) {
         submenuhead(vb);
         line("INITIALIZING COLOR TABLE WITH 19 COLORS");
         line("0/1         : BKG,WHITE / FRG,BLACK");
@@ -298,7 +299,7 @@ void scolortable(const int& inter) {
             scolorrgb(index, name, r, g, b, 1);
         }
     }
-    if (inter % 2 != 0) return;
+    if (mode_silent(inter)) return;
 
     int ierr = 0;
     for (;;) {

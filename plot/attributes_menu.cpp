@@ -2,6 +2,7 @@
 #include "plot/attributes.h"
 #include "plot/attributes_internal.h"
 #include "shell/format.h"
+#include "shell/intera.h"
 #include "shell/prompts.h"
 
 using namespace attrdetail;
@@ -54,7 +55,7 @@ void splotattributes(const int& inter) {
     // Work copies: each setter fills its own from the store or the default.
     int ival = 0;
     float rval = 0.0f;
-    if (inter == 4 || inter == 5 || inter == 7) {
+    if (mode_resets(inter) || inter == 7) {
         submenuhead(vb);
         line(inter == 7 ? "UPDATING PLOT ATTRIBUTESS" : "INITIALIZING PLOT ATTRIBUTESS");
         if (inter != 7) {
@@ -75,7 +76,7 @@ void splotattributes(const int& inter) {
         stextsize(rval, inter);
         stextfont(ival, inter);
     }
-    if (inter % 2 != 0) return;
+    if (mode_silent(inter)) return;
 
     int k = 2;
     bool iscur = true;

@@ -4,6 +4,7 @@
 
 #include "math/matrix.h"
 #include "plot/pages.h"
+#include "shell/intera.h"
 #include "shell/sio.h"
 
 namespace {
@@ -114,7 +115,7 @@ void sus2cm1(float& xcm0, float& ycm0, float& xx, float& xy, float& yx, float& y
     int kfirst = 0, klast = 0;
     subplot_span(kfirst, klast, inter);
     for (int k = kfirst; k <= klast; ++k) {
-        if (inter == 2 || inter == 3) {
+        if (mode_from_store(inter)) {
             xcm0 = plt1blk.US0TOCM(1, k);
             ycm0 = plt1blk.US0TOCM(2, k);
             fetch_matrix(k, xx, xy, yx, yy);
@@ -128,7 +129,7 @@ void sus2cm1(float& xcm0, float& ycm0, float& xx, float& xy, float& yx, float& y
             yx = 0.0f;
             yy = 1.0f;
         }
-        if (inter % 2 == 0) mus2cm1(xcm0, ycm0, xx, xy, yx, yy);
+        if (mode_talks(inter)) mus2cm1(xcm0, ycm0, xx, xy, yx, yy);
         plt1blk.US0TOCM(1, k) = xcm0;
         plt1blk.US0TOCM(2, k) = ycm0;
         store_matrix(k, xx, xy, yx, yy);
@@ -141,7 +142,7 @@ void sus2cm2(float& xcm0, float& ycm0, float& xu0, float& yu0, float& xx, float&
     int kfirst = 0, klast = 0;
     subplot_span(kfirst, klast, inter);
     for (int k = kfirst; k <= klast; ++k) {
-        if (inter == 2 || inter == 3) {
+        if (mode_from_store(inter)) {
             xcm0 = plt1blk.USMINTOCM(1, k);
             ycm0 = plt1blk.USMINTOCM(2, k);
             xu0 = plt1blk.USEXTR(1, k);
@@ -159,7 +160,7 @@ void sus2cm2(float& xcm0, float& ycm0, float& xu0, float& yu0, float& xx, float&
             yx = 0.0f;
             yy = 1.0f;
         }
-        if (inter % 2 == 0) mus2cm2(xcm0, ycm0, xu0, yu0, xx, xy, yx, yy);
+        if (mode_talks(inter)) mus2cm2(xcm0, ycm0, xu0, yu0, xx, xy, yx, yy);
         plt1blk.USMINTOCM(1, k) = xcm0;
         plt1blk.USMINTOCM(2, k) = ycm0;
         plt1blk.USEXTR(1, k) = xu0;
@@ -175,7 +176,7 @@ void sus2cm3(float& xcm0, float& ycm0, float& xlcm, float& ylcm, float& xumin, f
     int kfirst = 0, klast = 0;
     subplot_span(kfirst, klast, inter);
     for (int k = kfirst; k <= klast; ++k) {
-        if (inter == 2 || inter == 3) {
+        if (mode_from_store(inter)) {
             xumin = plt1blk.USEXTR(1, k);
             xumax = plt1blk.USEXTR(2, k);
             yumin = plt1blk.USEXTR(3, k);
@@ -198,7 +199,7 @@ void sus2cm3(float& xcm0, float& ycm0, float& xlcm, float& ylcm, float& xumin, f
             ycm0 = 2.0f;
             ixy = 1;
         }
-        if (inter % 2 == 0) mus2cm3(xcm0, ycm0, xlcm, ylcm, xumin, xumax, yumin, yumax, ixy);
+        if (mode_talks(inter)) mus2cm3(xcm0, ycm0, xlcm, ylcm, xumin, xumax, yumin, yumax, ixy);
         plt1blk.USEXTR(1, k) = xumin;
         plt1blk.USEXTR(2, k) = xumax;
         plt1blk.USEXTR(3, k) = yumin;

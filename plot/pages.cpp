@@ -7,6 +7,7 @@
 #include "plot/device/psdevice.h"
 #include "shell/format.h"
 #include "shell/frames.h"
+#include "shell/intera.h"
 #include "shell/prompts.h"
 #include "shell/sio.h"
 
@@ -45,7 +46,7 @@ void plinit(fstr_ref name, const int& inter) {
     intplinit(name, inter);
     iocom.lplotopen = true;
     // 2 and 3 carry the maps and attributes set so far into the new file.
-    const int k = (inter == 2 || inter == 3) ? 7 : 5;
+    const int k = mode_from_store(inter) ? 7 : 5;
     splotscaling(k);
     splotattributes(k);
 }
@@ -82,7 +83,7 @@ void newpage() {
 }
 
 void splotscaling(const int& inter) {
-    if (inter != 4 && inter != 5 && inter != 7) {
+    if (!mode_resets(inter) && inter != 7) {
         warninghead(VB_SPLOTSCALING);
         writef(iocom.isout, "(1x,a,1x,i6)", "inter =", inter);
         textline("Accepted values = 4,5,7");
@@ -130,7 +131,7 @@ void splotscaling(const int& inter) {
 }
 
 void ssubplot(int& nsub, const int& inter) {
-    if (inter == 2 || inter == 3) {
+    if (mode_from_store(inter)) {
         nsub = plt1blk.isubplot;
     } else if (inter >= 4 && inter <= 7) {
         submenuhead(VB_SSUBPLOT);
@@ -144,7 +145,7 @@ void ssubplot(int& nsub, const int& inter) {
         errortail00();
         return;
     }
-    if (inter % 2 == 0) {
+    if (mode_talks(inter)) {
         // Only informs: there is no question to answer.
         submenuhead(VB_SSUBPLOT);
         dashes();
@@ -165,7 +166,7 @@ void ssubplot(int& nsub, const int& inter) {
 void splotunits(farr<float, 2>& V0TOW, farr2<float, 2, 2>& VTOW, const int& imat,
                 const int& inter) {
     const int k = plt1blk.isubplot;
-    if ((inter == 2 || inter == 3) && (imat == 1 || imat == 3)) {
+    if (mode_from_store(inter) && (imat == 1 || imat == 3)) {
         const bool tocm = imat == 1;
         for (int i = 1; i <= 2; ++i) {
             V0TOW(i) = tocm ? plt1blk.US0TOCM(i, k) : plt1blk.US0TODE(i, k);

@@ -9,3 +9,5 @@ inline constexpr bool mode_from_store(int intera) { return intera == 2 || intera
 inline constexpr bool mode_resets(int intera) { return intera == 4 || intera == 5; }
 inline constexpr bool mode_talks(int intera) { return intera % 2 == 0; }
 inline constexpr bool mode_silent(int intera) { return intera % 2 != 0; }
+// One of the six modes above.
+inline constexpr bool mode_known(int intera) { return intera >= 0 && intera <= 5; }

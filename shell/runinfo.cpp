@@ -5,6 +5,7 @@
 #include "shell/figures.h"
 #include "shell/format.h"
 #include "shell/frames.h"
+#include "shell/intera.h"
 #include "shell/prompts.h"
 #include "shell/sio.h"
 #include "shell/textlen.h"
@@ -92,7 +93,7 @@ void ssubexitinfo(std::string_view name, std::string_view version, std::string_v
 void scmndinfo(const int& command) { runinfo3com.icmdrun = command; }
 
 void swpinfo(int& code, const int& intera) {
-    if (intera == 0 || intera == 1) {
+    if (mode_from_caller(intera)) {
         if (code < 0 || code > 3) {
             warninghead(VB_SWPINFO);
             textline("RUN INFO CODE OUT OF RANGE:");
@@ -103,9 +104,9 @@ void swpinfo(int& code, const int& intera) {
             code_line("==> RESET run info code =", code);
             warningtail00();
         }
-    } else if (intera == 2 || intera == 3) {
+    } else if (mode_from_store(intera)) {
         code = runinfo3com.iruninfo;
-    } else if (intera == 4 || intera == 5) {
+    } else if (mode_resets(intera)) {
         code = 0;
         if (intera == 5) {
             submenuhead(VB_SWPINFO);
@@ -113,7 +114,7 @@ void swpinfo(int& code, const int& intera) {
         }
     }
 
-    if (intera == 0 || intera == 2 || intera == 4) {
+    if (mode_known(intera) && mode_talks(intera)) {
         submenuhead(VB_SWPINFO);
         textline(DASHED);
         textline("   RUN INFORMATION TO WRITE AND PLOT");
@@ -128,7 +129,7 @@ void swpinfo(int& code, const int& intera) {
         inintegvindef(code, "run info code", code, 0, 3, ierr);
     }
 
-    if (intera >= 0 && intera <= 5) {
+    if (mode_known(intera)) {
         runinfo3com.iruninfo = code;
     } else {
         warninghead(VB_SWPINFO);

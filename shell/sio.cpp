@@ -2,6 +2,7 @@
 
 #include "shell/format.h"
 #include "shell/frames.h"
+#include "shell/intera.h"
 #include "shell/prompts.h"
 
 iocom_t iocom{5, 6, 5, 6, 0, 0, false, false, true, {{true, true, false}}};
@@ -87,8 +88,8 @@ void moutput1(bool& enabled, int level, int intera) {
         errortail00();
         return;
     }
-    if (intera == 2 || intera == 3) enabled = iocom.LWITO(level);
-    if (intera % 2 == 0) {
+    if (mode_from_store(intera)) enabled = iocom.LWITO(level);
+    if (mode_talks(intera)) {
         for (;;) {
             submenuhead(VB_MOUTPUT1);
             textline(DASHED);

@@ -4,6 +4,7 @@
 
 #include "shell/format.h"
 #include "shell/frames.h"
+#include "shell/intera.h"
 #include "shell/prompts.h"
 #include "shell/sio.h"
 
@@ -25,7 +26,7 @@ void ival2ind1(int& index, int value, const int* array, int first, int last, int
 
 void inval2inind2(int& ierr, int& first, int& last, float Rmin, float Rmax, int Imin, int Imax,
                   const float* rdat, int size, int inter) {
-    const bool show = iocom.LWITO(1) && inter % 2 == 0;
+    const bool show = iocom.LWITO(1) && mode_talks(inter);
     const bool more = iocom.LWITO(2) && show;
     auto R = [&](int k) { return rdat[k - 1]; };
     int lo = Imin, hi = Imax;

@@ -6,6 +6,7 @@
 
 #include "shell/format.h"
 #include "shell/frames.h"
+#include "shell/intera.h"
 #include "shell/prompts.h"
 #include "shell/sio.h"
 #include "shell/textlen.h"
@@ -67,7 +68,7 @@ void scol2var2(int& ierr, int* jcola, int* jfcola, fstr_array_ref namvara, int& 
     const int most = std::min(maxvar, 99);
     int ilist = 0;
 
-    if (inter == 0 || inter == 1) {
+    if (mode_from_caller(inter)) {
         if (nvar > most) {
             warninghead(VB_SCOL2VAR2);
             numline("Trying to set nvar =", nvar, "variables");
@@ -76,7 +77,7 @@ void scol2var2(int& ierr, int* jcola, int* jfcola, fstr_array_ref namvara, int& 
             numline("===> RESET nvar =", nvar);
             warningtail00();
         }
-    } else if (inter == 2 || inter == 3) {
+    } else if (mode_from_store(inter)) {
         nvar = s.nvarfile;
         if (nvar > most) {
             errorhead(VB_SCOL2VAR2);
@@ -91,7 +92,7 @@ void scol2var2(int& ierr, int* jcola, int* jfcola, fstr_array_ref namvara, int& 
             jfcola[k - 1] = s.JFCOL(k);
             namvara(k).assign(s.NAMVAR(k).sv());
         }
-    } else if (inter == 4 || inter == 5) {
+    } else if (mode_resets(inter)) {
         submenuhead(VB_SCOL2VAR2);
         textline("INITIALIZING VARIABLES<->COLUMNS");
         for (int i = 1; i <= maxvar; ++i) default_variable(i, jcola, jfcola, namvara, maxcols);
@@ -170,7 +171,7 @@ void scol2var2(int& ierr, int* jcola, int* jfcola, fstr_array_ref namvara, int& 
             } else {
                 names_read = true;
             }
-        } else if (inter == 4 || inter == 5) {
+        } else if (mode_resets(inter)) {
             submenuhead(VB_SCOL2VAR2);
             textline("Input file not yet open");
             textline("===> initializing header");

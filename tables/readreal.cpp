@@ -8,6 +8,7 @@
 
 #include "shell/format.h"
 #include "shell/frames.h"
+#include "shell/intera.h"
 #include "shell/prompts.h"
 #include "shell/sio.h"
 #include "shell/textconv.h"
@@ -87,7 +88,7 @@ void readreal6(int& ierr, fstr_ref title, fstr_ref fname, std::string_view label
                fstr_array_ref namrcol, int& nlines, int& ncolused, int maxlines, int maxcols,
                int ilevel, int inter) {
     ierr = 0;
-    if (inter == 4 || inter == 5) {
+    if (mode_resets(inter)) {
         submenuhead(VB_READREAL6);
         textline("INITIALIZING INPUT FILE TYPE");
         sfheader1(ierr, nlinedisp, iskip, ititle, iheader, fname, unit, inter);
@@ -95,7 +96,7 @@ void readreal6(int& ierr, fstr_ref title, fstr_ref fname, std::string_view label
                   unit, 1, inter);
         return;
     }
-    if (inter < 0 || inter > 5) inter_outside(VB_READREAL6, inter);
+    if (!mode_known(inter)) inter_outside(VB_READREAL6, inter);
     const bool even = is_even(inter);
 
     bool open_file = true;
@@ -214,19 +215,19 @@ void sfheader1(int& ierr, int& nlinedisp, int& iskip, int& ititle, int& iheader,
                std::string_view fname, int unit, int inter) {
     ierr = 0;
     readrealsetup_t& s = readrealsetup;
-    if (inter == 2 || inter == 3) {
+    if (mode_from_store(inter)) {
         nlinedisp = s.nlinedisp;
         iskip = s.iskip;
         ititle = s.ititle;
         iheader = s.iheader;
-    } else if (inter == 4 || inter == 5) {
+    } else if (mode_resets(inter)) {
         submenuhead(VB_SFHEADER1);
         textline("INITIALIZING INPUT FILE HEADER");
         nlinedisp = 3;
         iskip = 2;
         ititle = 1;
         iheader = 2;
-    } else if (inter < 0 || inter > 5) {
+    } else if (!mode_known(inter)) {
         inter_outside(VB_SFHEADER1, inter);
     }
 

@@ -4,6 +4,7 @@
 
 #include "shell/format.h"
 #include "shell/frames.h"
+#include "shell/intera.h"
 #include "shell/prompts.h"
 #include "shell/sio.h"
 #include "shell/textlen.h"
@@ -74,7 +75,7 @@ void read_file(int& pid) {
 
 void readwell2(int intera) {
     welldat_t& w = welldat;
-    if (intera == 4 || intera == 5) {
+    if (mode_resets(intera)) {
         submenuhead(VB_READWELL);
         textline("INITIALIZING WELL DATA INPUT");
         // The reader's own defaults and the column correspondence first; a

@@ -4,6 +4,7 @@
 
 #include "shell/format.h"
 #include "shell/frames.h"
+#include "shell/intera.h"
 #include "shell/prompts.h"
 #include "shell/sio.h"
 #include "shell/textlen.h"
@@ -91,7 +92,7 @@ void wdtype(int& id, int intera) {
     int index = w.itypwd;
     int ierr = 0;
 
-    if (intera == 0 || intera == 1 || intera == 10 || intera == 11) {
+    if (mode_from_caller(intera) || intera == 10 || intera == 11) {
         find_id(index, id, w.IDTYPWD.data(), 0, w.imaxtypwd, ierr);
         if (ierr != 0) {
             errorhead(VB_WDTYPE);
@@ -104,7 +105,7 @@ void wdtype(int& id, int intera) {
             textline("    name  =", trimmed(w.TYPWDNAM(0).sv()));
             errortail00();
         }
-    } else if (intera == 4 || intera == 5) {
+    } else if (mode_resets(intera)) {
         submenuhead(VB_WDTYPE);
         textline("INITIALIZING WELL DATA TYPE");
         index = 0;
@@ -115,7 +116,7 @@ void wdtype(int& id, int intera) {
         fill_type_table();
     }
 
-    if (intera % 2 == 0) {
+    if (mode_talks(intera)) {
         submenuhead(VB_WDTYPE);
         if (iocom.LWITO(2))
             typestatus1("CURRENT", "WELL", w.TYPWDNAM(w.itypwd).sv(), w.IDTYPWD(w.itypwd),
@@ -136,7 +137,7 @@ void wdtype(int& id, int intera) {
             w.titlewd = "none";
             w.finwd = "none";
             w.ndatwd = 0;
-        } else if (intera != 4 && intera != 5 && newid != 0) {
+        } else if (!mode_resets(intera) && newid != 0) {
             done = true;
         }
         if (!done) {
@@ -201,7 +202,7 @@ void typeselect1(int& index, int& id, std::string_view label, const fstr<36>* na
         textline(" name  =", trimmed(names[index].sv()));
         errortail00();
     }
-    if (inter % 2 != 0) return;
+    if (mode_silent(inter)) return;
 
     for (;;) {
         if (headcode == 1) submenuhead(VB_TYPESELECT1);
@@ -270,7 +271,7 @@ void dat1astatus1(std::string_view label, std::string_view tname, int id, std::s
     (void)maxvar;
     (void)ncol;
 
-    if (intera == 0 || intera == 1) {
+    if (mode_from_caller(intera)) {
         if (ilist < 0 || ilist > 3) {
             warninghead(VB_DAT1ASTATUS);
             writef(iocom.isout, "(1x,a,1x,i6)", "Wrong values of ilist", ilist);
@@ -278,9 +279,9 @@ void dat1astatus1(std::string_view label, std::string_view tname, int id, std::s
             warningtail00();
             ilist = last;
         }
-    } else if (intera == 2 || intera == 3) {
+    } else if (mode_from_store(intera)) {
         ilist = last;
-    } else if (intera == 4 || intera == 5) {
+    } else if (mode_resets(intera)) {
         submenuhead(VB_DAT1ASTATUS);
         textline("INITIALIZING DATA STATUS DISPLAY");
         ilist = 0;
@@ -291,7 +292,7 @@ void dat1astatus1(std::string_view label, std::string_view tname, int id, std::s
     }
 
     for (;;) {
-        if (intera % 2 == 0) submenuhead(VB_DAT1ASTATUS);
+        if (mode_talks(intera)) submenuhead(VB_DAT1ASTATUS);
         textline(DASHED);
         textline(std::string(trimmed(label)) + " DATA STATUS");
         textline(DASHED);
@@ -336,7 +337,7 @@ void dat1astatus1(std::string_view label, std::string_view tname, int id, std::s
             }
         }
 
-        if (intera % 2 != 0) break;
+        if (mode_silent(intera)) break;
         textline(DASHED);
         textline("Change display and show again....100");
         textline("EXIT AND PROCEED .................99");

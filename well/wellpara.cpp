@@ -4,6 +4,7 @@
 
 #include "shell/format.h"
 #include "shell/frames.h"
+#include "shell/intera.h"
 #include "shell/prompts.h"
 #include "shell/sio.h"
 
@@ -104,7 +105,7 @@ void menu() {
 }  // namespace
 
 void swellparam(int intera) {
-    if (intera == 4 || intera == 5) {
+    if (mode_resets(intera)) {
         submenuhead(VB_SWELLPARAM);
         textline("INITIALIZING BOREHOLE PARAMETERS");
         for (const param_row& r : ROWS) wellpara.*r.field = r.def;
@@ -113,5 +114,5 @@ void swellparam(int intera) {
         print_list();
         return;
     }
-    if (intera % 2 == 0) menu();
+    if (mode_talks(intera)) menu();
 }

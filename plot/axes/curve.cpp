@@ -2,6 +2,7 @@
 
 #include "shell/format.h"
 #include "shell/frames.h"
+#include "shell/intera.h"
 #include "shell/prompts.h"
 #include "shell/sio.h"
 
@@ -18,13 +19,13 @@ void int_line(std::string_view a, int v) { writef(iocom.isout, "(1x,a,1x,i6)", a
 
 void scptnp(int& npcurve, const int& inter) {
     const version_block& vb = VB_SCPTNP;
-    if (inter == 2 || inter == 3) npcurve = ptblock.npcurve;
-    if (inter == 4 || inter == 5) {
+    if (mode_from_store(inter)) npcurve = ptblock.npcurve;
+    if (mode_resets(inter)) {
         npcurve = 11;
         submenuhead(vb);
         int_line("INITIALIZING NUMBER OF POINTS TO:", npcurve);
     }
-    if (inter % 2 == 0) {
+    if (mode_talks(inter)) {
         for (;;) {
             submenuhead(vb);
             if (iocom.LWITO(2)) {

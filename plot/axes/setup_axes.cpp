@@ -2,6 +2,7 @@
 #include "plot/axes/axes.h"
 #include "shell/format.h"
 #include "shell/frames.h"
+#include "shell/intera.h"
 #include "shell/prompts.h"
 #include "shell/sio.h"
 
@@ -27,8 +28,8 @@ void text_line(std::string_view a, std::string_view b) {
     writef(iocom.isout, "(1x,a,1x,a)", a, b);
 }
 
-bool fetches(int inter) { return inter == 2 || inter == 3 || inter == 10; }
-bool resets(int inter) { return inter == 4 || inter == 5; }
+bool fetches(int inter) { return mode_from_store(inter) || inter == 10; }
+bool resets(int inter) { return mode_resets(inter); }
 
 // The refusal of an axis number out of 1 to 15; true when refused.
 bool bad_axis(const version_block& vb, int iaxis) {
@@ -94,7 +95,7 @@ void set_axis(const version_block& vb, float& USA1, float& USA2, float& WAU1, fl
         if (nlabintk) *nlabintk = 1;
     }
 
-    const bool menu = inter % 2 == 0;
+    const bool menu = mode_talks(inter);
     for (;;) {
         while (menu) {
             submenuhead(vb);
@@ -238,7 +239,7 @@ void s1axuswdtyp(int& IUSWDTYP, float& WAOUS, const int& iaxis, const int& inter
         warningtail00();
     }
 
-    if (inter % 2 == 0) {
+    if (mode_talks(inter)) {
         for (;;) {
             if (WAOUS == 0.0f) {
                 warninghead(vb);
@@ -298,7 +299,7 @@ void snaxis(const int& inter) {
                     f.NASUBINT, f.NLABINTK, i, 1);
         }
     }
-    if (inter % 2 != 0) return;
+    if (mode_silent(inter)) return;
     for (;;) {
         submenuhead(VB_SNAXIS);
         if (iocom.LWITO(2)) {
@@ -383,7 +384,7 @@ void s1bx2d(int& ixaxisbx, int& iyaxisbx, int& left, int& right, int& bottom, in
         }
     }
 
-    if (inter % 2 == 0) {
+    if (mode_talks(inter)) {
         for (;;) {
             submenuhead(vb);
             if (iocom.LWITO(2)) {
