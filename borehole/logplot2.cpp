@@ -15,6 +15,7 @@
 #include "shell/format.h"
 #include "shell/frames.h"
 #include "shell/intera.h"
+#include "shell/menus.h"
 #include "shell/prompts.h"
 #include "shell/runinfo.h"
 #include "shell/sio.h"
@@ -36,39 +37,32 @@ struct logsaved_t {
 };
 logsaved_t logsaved{"log.ps", 0, 66, 66, 5, 0.2f};
 
-void line(std::string_view s) { writef(iocom.isout, "(1x,a)", s); }
-void rule() { line(DASHED); }
-void blockhead(std::string_view s) {
-    rule();
-    line(s);
-    rule();
-}
 
 void menu(bool lupdate) {
     const int out = iocom.isout;
     welldat_t& w = welldat;
-    blockhead("PLOT PARAMS                       Command");
-    line("Open plot file ........................10");
-    writef(out, "(1x,a,1x,l1)", "Landscape(T)/Portrait(F) ..............11", wellplot.llandscape);
-    line("Set plot and axes params ..............13");
-    line("Boxes set up ..........................15");
-    line("Local symbol type .....................16");
-    line("Local symbol size .....................17");
-    line("Close plot file .......................20");
+    menublock("PLOT PARAMS                       Command");
+    textline("Open plot file ........................10");
+    flagline("Landscape(T)/Portrait(F) ..............11", wellplot.llandscape);
+    textline("Set plot and axes params ..............13");
+    textline("Boxes set up ..........................15");
+    textline("Local symbol type .....................16");
+    textline("Local symbol size .....................17");
+    textline("Close plot file .......................20");
     int ilist = 1;
     dat1astatus1("WELL", w.TYPWDNAM(w.itypwd).sv(), w.IDTYPWD(w.itypwd), w.finwd.sv(),
                  w.titlewd.sv(), w.ndatwd, MAXDATWD, w.NAMVAR, w.nvarwd, MAXVARWD, w.JCOL.data(),
                  w.NAMCOL, w.ncolwd, MAXCOLWD, ilist, 1);
     swellparam(10);
-    line("Change hole parameters ................50");
-    blockhead("PARAMETERS                        Command");
-    writef(out, "(1x,a,1x,l1)", "Update computations :", lupdate);
+    textline("Change hole parameters ................50");
+    menublock("PARAMETERS                        Command");
+    flagline("Update computations :", lupdate);
     writef(out, "(1x,a,1x,i6,1x,a)", "Csat activated ?......................855", logsaved.icsat);
     writef(out, "(1x,a,1x,i6,1x,a)", "Nb intervals for forward rotation ....856", logsaved.nrotf);
     writef(out, "(1x,a,1x,i6,1x,a)", "Nb intervals for central rotation ....857", logsaved.nrotc);
-    blockhead("CROSS PLOT                        Command");
-    line("AzCmax[180]-DC .......................101");
-    blockhead("MULTIPLE PLOTS (Z)                Command");
+    menublock("CROSS PLOT                        Command");
+    textline("AzCmax[180]-DC .......................101");
+    menublock("MULTIPLE PLOTS (Z)                Command");
     static const char* const plots[] = {
         "Xsct,C12,P1Az360,DEV,HAZ,RB360 .......301",
         "Cex,AzCmx180,P1Az90,P1Az360,Rotf1,2 ..302",
@@ -99,20 +93,20 @@ void menu(bool lupdate) {
         "C12,|DC|,RBCmx,AzCmax+P1Az180,X+S,S ..361",
         "C12,|DC|,RBCmx,AzCmax+P1Az180,BO,POW .362",
     };
-    for (const char* l : plots) line(l);
-    blockhead("OUTPUT TO FILE ...................Command");
-    line("FULL OUTPUT ..........................500");
-    rule();
-    line("EXIT THIS SUBROUTINE ..................99");
+    for (const char* l : plots) textline(l);
+    menublock("OUTPUT TO FILE ...................Command");
+    textline("FULL OUTPUT ..........................500");
+    menurule();
+    textline("EXIT THIS SUBROUTINE ..................99");
     menutail();
 }
 
 // Command 11.
 void orientation() {
-    rule();
-    line("N.B. Exchanging Landscape for Portrait ");
-    line("     will reset all subplots scaling");
-    rule();
+    menurule();
+    textline("N.B. Exchanging Landscape for Portrait ");
+    textline("     will reset all subplots scaling");
+    menurule();
     bool landscape = wellplot.llandscape;
     int ierr = 0;
     inlogicdef(landscape, "Use Landscape(1) or Portrait(0) A4", wellplot.llandscape, ierr);
@@ -131,24 +125,24 @@ void boxsetup() {
 
 // Command 856.
 void forwardintervals() {
-    rule();
-    line("             forward rotation");
-    line("       Entering number of intervals");
-    line(" Number of interval = number of points - 1");
-    line("         THIS NUMBER MUST BE > 1");
-    rule();
+    menurule();
+    textline("             forward rotation");
+    textline("       Entering number of intervals");
+    textline(" Number of interval = number of points - 1");
+    textline("         THIS NUMBER MUST BE > 1");
+    menurule();
     int ierr = 0;
     inintegvindef(logsaved.nrotf, "Number of intervals", logsaved.nrotf, 1, 1000, ierr);
 }
 
 // Command 857: the central difference needs as many points on each side.
 void centralintervals() {
-    rule();
-    line("           central rotation");
-    line("     Entering number of intervals");
-    line(" Number of interval = number of points - 1");
-    line("      THIS NUMBER MUST BE EVEN AND > 1");
-    rule();
+    menurule();
+    textline("           central rotation");
+    textline("     Entering number of intervals");
+    textline(" Number of interval = number of points - 1");
+    textline("      THIS NUMBER MUST BE EVEN AND > 1");
+    menurule();
     int nint = logsaved.nrotc, ierr = 0;
     inintegvindef(nint, "EVEN number of intervals", logsaved.nrotc, 2, 1000, ierr);
     if (nint % 2 == 0) {
@@ -156,12 +150,12 @@ void centralintervals() {
         return;
     }
     warninghead(VB_LOGPLOT2);
-    writef(iocom.isout, "(1x,a,1x,i6)", "Entered nb of intervals =", nint);
-    line("CENTERED ROTATION");
-    line("NB OF INTERVALS MUST BE EVEN");
-    line("=> DISCARDING INPUT");
-    line("=> KEEPING OLD STORED VALUE");
-    writef(iocom.isout, "(1x,a,1x,i6)", "Stored nb of intervals =", logsaved.nrotc);
+    intline("Entered nb of intervals =", nint);
+    textline("CENTERED ROTATION");
+    textline("NB OF INTERVALS MUST BE EVEN");
+    textline("=> DISCARDING INPUT");
+    textline("=> KEEPING OLD STORED VALUE");
+    intline("Stored nb of intervals =", logsaved.nrotc);
     warningtail00();
 }
 
@@ -247,7 +241,7 @@ void logplot2(const int& intera) {
     logsaved_t& s = logsaved;
     if (mode_resets(intera)) {
         submenuhead(VB_LOGPLOT2);
-        line("INITIALIZING LOG PLOT PARAMETERS");
+        textline("INITIALIZING LOG PLOT PARAMETERS");
         s = logsaved_t{"log.ps", 0, 66, 66, 5, 0.2f};
         return;
     }

@@ -4,6 +4,7 @@
 #include "plot/device/psdevice.h"
 #include "plot/pages.h"
 #include "shell/intera.h"
+#include "shell/menus.h"
 #include "shell/prompts.h"
 #include "shell/textlen.h"
 
@@ -39,9 +40,9 @@ void nothing_to_send() {}
 void panel_head(const version_block& vb, std::string_view title) {
     submenuhead(vb);
     if (!iocom.LWITO(2)) return;
-    rule();
-    line(title);
-    rule();
+    menurule();
+    textline(title);
+    menurule();
 }
 
 void colour_setter(int& value, const int& inter, const version_block& vb, int& field, int def,
@@ -60,9 +61,9 @@ void colour_setter(int& value, const int& inter, const version_block& vb, int& f
                    pltcharblk.COLORNAM(field));
             writef(iocom.isout, "(1x,a,1x,i3,1x,a)", "new     value:", value,
                    pltcharblk.COLORNAM(value));
-            rule();
+            menurule();
             colour_list();
-            rule();
+            menurule();
         }
         menutail();
         int ierr = 0;
@@ -92,36 +93,36 @@ namespace attrdetail {
 
 void bad_inter(const version_block& vb, int inter, std::string_view range) {
     warninghead(vb);
-    int_line("inter =", inter);
-    if (!range.empty()) line(range);
-    line("===> NO ACTION");
+    intline("inter =", inter);
+    if (!range.empty()) textline(range);
+    textline("===> NO ACTION");
     warningtail00();
 }
 
 void closed_plot_warning(const version_block& vb) {
     warninghead(vb);
-    line("TRYING TO PROPAGATE PLOT ATTRIBUTE");
-    line(" WITH CLOSED PLOT FILE");
-    line("===> NO ACTION");
+    textline("TRYING TO PROPAGATE PLOT ATTRIBUTE");
+    textline(" WITH CLOSED PLOT FILE");
+    textline("===> NO ACTION");
     warningtail00();
 }
 
 void check_colour_index(int& index, const version_block& vb) {
     if (index < 0) {
         warninghead(vb);
-        int_line("trying to set color nb =", index);
-        line("when min color nb      = 0");
+        intline("trying to set color nb =", index);
+        textline("when min color nb      = 0");
         index = 1;
-        int_line("===> RESET color nb    =", index);
+        intline("===> RESET color nb    =", index);
         warningtail00();
     } else if (index > plt2blk.ncolors) {
         warninghead(vb);
-        int_line("trying to set color nb =", index);
-        int_line("when max color nb      =", plt2blk.ncolors);
+        intline("trying to set color nb =", index);
+        intline("when max color nb      =", plt2blk.ncolors);
         // Colour numbers wrap around the table, the background left out.
         index = index % (plt2blk.ncolors + 1);
         if (index == 0) index = 1;
-        int_line("===> RESET color nb    =", index);
+        intline("===> RESET color nb    =", index);
         warningtail00();
     }
 }
@@ -138,7 +139,7 @@ void slinewidth(float& value, const int& inter) {
     if (!attr_source(value, plt2blk.linewidcm, 0.02f, inter, vb, send_linewidth)) return;
     if (mode_from_caller(inter) && (value <= 0.01f || value > 1000.0f)) {
         warninghead(vb);
-        line("LINE THICKNESS OUT OF RANGE:");
+        textline("LINE THICKNESS OUT OF RANGE:");
         real_line(" line thickness (cm) =", value);
         real_line(" min =", 0.01f);
         real_line(" max =", 1000.0f);
@@ -155,7 +156,7 @@ void slinewidth(float& value, const int& inter) {
         panel_head(vb, "          LINE THICKNESS");
         if (iocom.LWITO(2)) {
             writef(iocom.isout, "(1x,a,f8.3)", "present value in cm ....... ", plt2blk.linewidcm);
-            rule();
+            menurule();
         }
         menutail();
         int ierr = 0;
@@ -190,33 +191,33 @@ void sfillstyle(int& value, const int& inter) {
     if (!attr_source(value, plt2blk.ifillsty, 1, inter, vb, nothing_to_send)) return;
     if (mode_from_caller(inter) && value < 0) {
         warninghead(vb);
-        int_line("trying to set nb of style  =", value);
-        line("min style nb = 0");
+        intline("trying to set nb of style  =", value);
+        textline("min style nb = 0");
         value = 1;
-        int_line("===> RESET style nb =", value);
+        intline("===> RESET style nb =", value);
         warningtail00();
     } else if (mode_from_caller(inter) && value > 1) {
         warninghead(vb);
-        int_line("trying to set style nb =", value);
-        int_line("max style nb =", 1);
+        intline("trying to set style nb =", value);
+        intline("max style nb =", 1);
         value = value % 2;
-        int_line("===> RESET style nb =", value);
+        intline("===> RESET style nb =", value);
         warningtail00();
     }
     if (inter == 5) {
         submenuhead(vb);
-        line("INITIALISING FILL STYLE TO: filled");
+        textline("INITIALISING FILL STYLE TO: filled");
     }
     if (inter == 3) return;
     if (mode_talks(inter)) {
         panel_head(vb, "     POLYGON FILL STYLES");
         if (iocom.LWITO(2)) {
-            int_line("currently stored   :", plt2blk.ifillsty);
-            int_line("suggested new value:", value);
-            rule();
-            line("hollow ....................0");
-            line("filled ....................1");
-            rule();
+            intline("currently stored   :", plt2blk.ifillsty);
+            intline("suggested new value:", value);
+            menurule();
+            textline("hollow ....................0");
+            textline("filled ....................1");
+            menurule();
         }
         menutail();
         int ierr = 0;
@@ -230,15 +231,15 @@ void stextfont(int& value, const int& inter) {
     if (!attr_source(value, plt2blk.ifont, 1, inter, vb, send_textfont)) return;
     if (mode_from_caller(inter) && (value < 1 || value > 16)) {
         warninghead(vb);
-        int_line("trying to set font number =", value);
-        line("font number must be in [1,16]");
+        intline("trying to set font number =", value);
+        textline("font number must be in [1,16]");
         value = 1;
-        int_line("===> RESET font number =", value);
+        intline("===> RESET font number =", value);
         warningtail00();
     }
     if (inter == 5) {
         submenuhead(vb);
-        line("INITIALISING TEXT FONT TO: 1 = Helvetica");
+        textline("INITIALISING TEXT FONT TO: 1 = Helvetica");
     }
     if (inter == 3) return;
     if (mode_talks(inter)) {
@@ -253,10 +254,10 @@ void stextfont(int& value, const int& inter) {
             "Symbol-Oblique.........................15", "Symbol-BoldOblique.....................16"};
         panel_head(vb, "                 TEXT FONT");
         if (iocom.LWITO(2)) {
-            int_line("present value.=", plt2blk.ifont);
-            rule();
-            for (const char* f : fonts) line(f);
-            rule();
+            intline("present value.=", plt2blk.ifont);
+            menurule();
+            for (const char* f : fonts) textline(f);
+            menurule();
         }
         menutail();
         int ierr = 0;
@@ -271,7 +272,7 @@ void stextsize(float& value, const int& inter) {
     if (!attr_source(value, plt2blk.textsizcm, 0.5f, inter, vb, send_textsize)) return;
     if (mode_from_caller(inter) && (value <= 0.02f || value > 1000.0f)) {
         warninghead(vb);
-        line("TEXT HEIGHT (cm) OUT OF RANGE:");
+        textline("TEXT HEIGHT (cm) OUT OF RANGE:");
         real_line(" text height =", value);
         real_line(" min         =", 0.02f);
         real_line(" max         =", 1000.0f);
@@ -288,7 +289,7 @@ void stextsize(float& value, const int& inter) {
         panel_head(vb, "                TEXT SIZE");
         if (iocom.LWITO(2)) {
             writef(iocom.isout, "(1x,a,f8.3)", "present value in cm .......... ", plt2blk.textsizcm);
-            rule();
+            menurule();
         }
         menutail();
         int ierr = 0;
@@ -303,24 +304,24 @@ void stextalign(int& value, const int& inter) {
     if (!attr_source(value, plt2blk.ijustif, -1, inter, vb, nothing_to_send)) return;
     if (mode_from_caller(inter) && (value < -11 || value > 11)) {
         warninghead(vb);
-        int_line("trying to set justif =", value);
-        line("justif must be in [-11,11]");
+        intline("trying to set justif =", value);
+        textline("justif must be in [-11,11]");
         value = -1;
-        int_line("===> RESET justif =", value);
+        intline("===> RESET justif =", value);
         warningtail00();
     }
     // Multiples of 4 name no horizontal position.
     if (value == 0 || value == -4 || value == -8 || value == 4 || value == 8) {
         warninghead(vb);
-        int_line("just =", value);
+        intline("just =", value);
         value = value > 0 ? 1 : -1;
-        int_line("===> RESET just =", value);
+        intline("===> RESET just =", value);
         warningtail00();
     }
     if (inter == 5) {
         submenuhead(vb);
-        line("INITIALISING TEXT ALIGNMENT TO: -1");
-        line("=====> left-bottom trimmed");
+        textline("INITIALISING TEXT ALIGNMENT TO: -1");
+        textline("=====> left-bottom trimmed");
     }
     if (inter == 3) return;
     if (mode_talks(inter)) {
@@ -344,9 +345,9 @@ void stextalign(int& value, const int& inter) {
                 "                                           ",
                 "-------------------------------------------",
             };
-            for (const char* l : panel) line(l);
-            int_line("currently stored   :", plt2blk.ijustif);
-            int_line("suggested new value:", value);
+            for (const char* l : panel) textline(l);
+            intline("currently stored   :", plt2blk.ijustif);
+            intline("suggested new value:", value);
         }
         menutail();
         int ierr = 0;
@@ -360,7 +361,7 @@ void stextangle(float& value, const int& inter) {
     if (!attr_source(value, plt2blk.textangle, 0.0f, inter, vb, nothing_to_send)) return;
     if (inter == 5) {
         submenuhead(vb);
-        line("INITIALISING TEXT ANGLE TO: 0.0");
+        textline("INITIALISING TEXT ANGLE TO: 0.0");
     }
     if (inter == 3) return;
     if (mode_talks(inter)) {
@@ -368,7 +369,7 @@ void stextangle(float& value, const int& inter) {
         if (iocom.LWITO(2)) {
             writef(iocom.isout, "(1x,a,1x,f8.2)", "currently stored   :", plt2blk.textangle);
             writef(iocom.isout, "(1x,a,1x,f8.2)", "suggested new value:", value);
-            rule();
+            menurule();
         }
         menutail();
         int ierr = 0;
@@ -380,7 +381,7 @@ void stextangle(float& value, const int& inter) {
 void ssymboltype(int& value, const int& inter) {
     const version_block& vb = VB_SSYMBOLTYPE;
     if (inter == 102) {
-        for (const char* l : SYMBOL_MENU) line(l);
+        for (const char* l : SYMBOL_MENU) textline(l);
         return;
     }
     if (inter != 200) {
@@ -392,27 +393,27 @@ void ssymboltype(int& value, const int& inter) {
         if (mode_resets(inter)) value = 1;
         if (inter == 5) {
             submenuhead(vb);
-            int_line("INITIALISING SYMBOL TYPE =", value);
+            intline("INITIALISING SYMBOL TYPE =", value);
         }
     }
     if (mode_talks(inter)) {
         submenuhead(vb);
         if (iocom.LWITO(2)) {
-            rule();
-            line("SYMBOL TYPE:");
-            line(" Negative number => filled symbol");
-            line(" N.B. Symbols also depend on");
-            line("      polygon & line attributes");
-            rule();
+            menurule();
+            textline("SYMBOL TYPE:");
+            textline(" Negative number => filled symbol");
+            textline(" N.B. Symbols also depend on");
+            textline("      polygon & line attributes");
+            menurule();
             if (inter == 200) {
-                int_line("ready to set type =", value);
+                intline("ready to set type =", value);
             } else {
-                int_line("currently stored type =", plt2blk.isymtype);
-                int_line("ready to  store  type =", value);
+                intline("currently stored type =", plt2blk.isymtype);
+                intline("ready to  store  type =", value);
             }
-            rule();
-            line("Symbol type ... symbol number");
-            for (const char* l : SYMBOL_MENU) line(l);
+            menurule();
+            textline("Symbol type ... symbol number");
+            for (const char* l : SYMBOL_MENU) textline(l);
         }
         menutail();
         int ierr = 0;
@@ -438,7 +439,7 @@ void ssymbolsize(float& value, const int& inter) {
         if (iocom.LWITO(2)) {
             writef(iocom.isout, "(1x,a,1x,f8.3)", "currently stored size =", plt2blk.symsizcm);
             writef(iocom.isout, "(1x,a,1x,f8.3)", "ready to  store  size =", value);
-            rule();
+            menurule();
         }
         menutail();
         int ierr = 0;

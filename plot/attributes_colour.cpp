@@ -5,6 +5,7 @@
 #include "plot/attributes_internal.h"
 #include "shell/format.h"
 #include "shell/intera.h"
+#include "shell/menus.h"
 #include "shell/prompts.h"
 #include "shell/textlen.h"
 #include "shell/units.h"
@@ -47,21 +48,21 @@ void apply_nb(int ncol, int inter) {
     // One colour means a black and white plot.
     plt2blk.lcolor = ncol == 1 ? 0 : 1;
     if (mode_talks(inter) || inter == 5) {
-        int_line("NB of colors =", ncol);
-        line(plt2blk.lcolor == 0 ? "==> Black & White plot" : "==> Color plot");
+        intline("NB of colors =", ncol);
+        textline(plt2blk.lcolor == 0 ? "==> Black & White plot" : "==> Color plot");
     }
     const int old = plt2blk.ncolors;
     plt2blk.ncolors = ncol;
     if (ncol < old) {
-        line("The nb of colors has been reduced");
-        line("==> checking current set up versus new max");
+        textline("The nb of colors has been reduced");
+        textline("==> checking current set up versus new max");
         // Mode 3 stores nothing: an index now past the table is reported
         // and left as it is.
         int scratch = 0;
         slinecolor(scratch, 3);
         sfillcolor(scratch, 3);
         stextcolor(scratch, 3);
-        line("==> checking done");
+        textline("==> checking done");
     }
 }
 
@@ -84,8 +85,8 @@ struct colour_source : record_source {
 
 void read_failure(colour_source& src, int iline) {
     errorhead(VB_SCOLORTABLE);
-    if (src.at_end) line("END OF FILE REACHED UNEXPECTEDLY");
-    int_line("WHILE READING LINE NUMBER ", iline);
+    if (src.at_end) textline("END OF FILE REACHED UNEXPECTEDLY");
+    intline("WHILE READING LINE NUMBER ", iline);
     unit_close(UNIT_COLOURS);
     textline("Input file", trimmed(colour_file), "is closed");
     errortail00();
@@ -133,17 +134,17 @@ void scolornb(int& ncol, const int& inter) {
     case 1:
         if (ncol > MAXCOLORS) {
             warninghead(vb);
-            int_line("trying to set nb of color  =", ncol);
-            int_line("max nb of color  =", MAXCOLORS);
+            intline("trying to set nb of color  =", ncol);
+            intline("max nb of color  =", MAXCOLORS);
             ncol = MAXCOLORS;
-            int_line("===> RESET nb of color =", ncol);
+            intline("===> RESET nb of color =", ncol);
             warningtail00();
         } else if (ncol < 1) {
             warninghead(vb);
-            int_line("trying to set nb of color  =", ncol);
-            line("min nb of color  = 1");
+            intline("trying to set nb of color  =", ncol);
+            textline("min nb of color  = 1");
             ncol = 1;
-            int_line("===> RESET nb of color =", ncol);
+            intline("===> RESET nb of color =", ncol);
             warningtail00();
         }
         break;
@@ -158,7 +159,7 @@ void scolornb(int& ncol, const int& inter) {
         ncol = 4;
         plt2blk.ncolors = 4;
         plt2blk.lcolor = 1;
-        int_line("INITIALIZING NUMBER OF COLORS TO:", ncol);
+        intline("INITIALIZING NUMBER OF COLORS TO:", ncol);
         break;
     default: bad_inter(vb, inter, "Accepted range = [0,5]"); return;
     }
@@ -167,17 +168,15 @@ void scolornb(int& ncol, const int& inter) {
         int ierr = 0;
         for (;;) {
             submenuhead(vb);
-            line("SETTING THE NUMBER OF COLORS:");
-            rule();
+            textline("SETTING THE NUMBER OF COLORS:");
+            menurule();
             writef(iocom.isout, "(1x,a,i3)", "max nb of colors ................", MAXCOLORS);
             writef(iocom.isout, "(1x,a,i3)", "current nb of colors ............", plt2blk.ncolors);
             writef(iocom.isout, "(1x,a,i3)", "new nb of colors to apply .....10", ncol);
-            rule();
-            line("CANCEL AND EXIT ...............98");
-            line("UPDATE AND EXIT ...............99");
-            menutail();
-            int irep = 99;
-            inintegdef(irep, "your choice", 99, ierr);
+            menurule();
+            textline("CANCEL AND EXIT ...............98");
+            textline("UPDATE AND EXIT ...............99");
+            const int irep = menuchoice();
             if (irep == 10) {
                 inintegvindef(ncol, "new nb of colors", ncol, 1, MAXCOLORS, ierr);
             } else if (irep == 98) {
@@ -196,9 +195,9 @@ void scolorrgb(int& index, fstr_ref name, float& red, float& green, float& blue,
     const version_block& vb = VB_SCOLORRGB;
     if (index < 0 || index > plt2blk.ncolors) {
         errorhead(vb);
-        int_line("trying to set color nb =", index);
+        intline("trying to set color nb =", index);
         writef(iocom.isout, "(1x,a,i3,a)", "When color index range = [0,", plt2blk.ncolors, "]");
-        line("===> NO ACTION");
+        textline("===> NO ACTION");
         errortail00();
         return;
     }
@@ -233,29 +232,27 @@ void scolorrgb(int& index, fstr_ref name, float& red, float& green, float& blue,
         fstr<80> newname = name.sv();
         for (;;) {
             submenuhead(vb);
-            line("               SETTING COLOR               ");
-            rule();
+            textline("               SETTING COLOR               ");
+            menurule();
             writef(iocom.isout, "(1x,a,1x,i3)", "max nb of colors ... =", MAXCOLORS);
             writef(iocom.isout, "(1x,a,1x,i3)", "current nb of colors =", plt2blk.ncolors);
-            rule();
+            menurule();
             writef(iocom.isout, "(1x,a,1x,i3)", "MODIFYING SETTING FOR COLOR INDEX =", index);
-            rule();
-            line("Color name:");
+            menurule();
+            textline("Color name:");
             textline("current =", pltcharblk.COLORNAM(index).sv());
             textline("new     =", trimmed(newname.sv()));
-            line("change new name........................20");
-            line("-----------------------------------------");
-            line("RGB components:");
+            textline("change new name........................20");
+            textline("-----------------------------------------");
+            textline("RGB components:");
             writef(iocom.isout, "(1x,a7,'|',3(1x,a6,1x,'|'))", "", "  red%", "green%", " blue%");
             rgb_row("current", plt2blk.RED(index), plt2blk.GREEN(index), plt2blk.BLUE(index));
             rgb_row("new", red, green, blue);
-            line("change new rgb setting ................30");
-            rule();
-            line("DO NOT APPLY NEW SETTINGS AND EXIT ....98");
-            line("APPLY NEW SETTINGS AND EXIT ...........99");
-            menutail();
-            int irep = 99;
-            inintegdef(irep, "your choice", 99, ierr);
+            textline("change new rgb setting ................30");
+            menurule();
+            textline("DO NOT APPLY NEW SETTINGS AND EXIT ....98");
+            textline("APPLY NEW SETTINGS AND EXIT ...........99");
+            const int irep = menuchoice();
             if (irep == 20) {
                 inchardef(newname, "new color name", newname.sv(), ierr);
             } else if (irep == 30) {
@@ -284,12 +281,12 @@ void scolortable(const int& inter) {
     }
     if (mode_resets(inter)) {
         submenuhead(vb);
-        line("INITIALIZING COLOR TABLE WITH 19 COLORS");
-        line("0/1         : BKG,WHITE / FRG,BLACK");
-        line("2/3/4/5/6/7 : R/G/B/C/M/Y");
-        line("8/9/10/11/12: GREY 20/30/40/50/70 %");
-        line("13/14/15    : Orange/C Green/S Green");
-        line("16/17/18    : Azure/Violet/Pink");
+        textline("INITIALIZING COLOR TABLE WITH 19 COLORS");
+        textline("0/1         : BKG,WHITE / FRG,BLACK");
+        textline("2/3/4/5/6/7 : R/G/B/C/M/Y");
+        textline("8/9/10/11/12: GREY 20/30/40/50/70 %");
+        textline("13/14/15    : Orange/C Green/S Green");
+        textline("16/17/18    : Azure/Violet/Pink");
         int ncol = MAXCOLORS;
         scolornb(ncol, 1);
         for (int i = 0; i <= MAXCOLORS; ++i) {
@@ -304,23 +301,21 @@ void scolortable(const int& inter) {
     int ierr = 0;
     for (;;) {
         submenuhead(vb);
-        line("SETTING COLOR TABLE");
-        rule();
-        int_line("Current nb of colors:", plt2blk.ncolors);
-        rule();
+        textline("SETTING COLOR TABLE");
+        menurule();
+        intline("Current nb of colors:", plt2blk.ncolors);
+        menurule();
         writef(iocom.isout, "(1x,a5,1x,a8,3(1x,a6))", "index", "name    ", "  red%", "green%", " blue%");
         for (int i = 0; i <= plt2blk.ncolors; ++i)
             writef(iocom.isout, "(1x,i5,1x,a8,3(1x,f6.1))", i, pltcharblk.COLORNAM(i),
                    plt2blk.RED(i), plt2blk.GREEN(i), plt2blk.BLUE(i));
-        rule();
-        line("change nb of colors ..........100");
-        line("set 1 rgb color ..............200");
-        line("read color table from file ...300");
-        rule();
-        line("EXIT ..........................99");
-        menutail();
-        int irep = 99;
-        inintegdef(irep, "your choice", 99, ierr);
+        menurule();
+        textline("change nb of colors ..........100");
+        textline("set 1 rgb color ..............200");
+        textline("read color table from file ...300");
+        menurule();
+        textline("EXIT ..........................99");
+        const int irep = menuchoice();
         if (irep == 100) {
             int ncol = plt2blk.ncolors;
             scolornb(ncol, 2);

@@ -6,15 +6,12 @@
 
 #include "shell/format.h"
 #include "shell/frames.h"
+#include "shell/menus.h"
 #include "shell/sio.h"
 
 namespace attrdetail {
 
-inline constexpr std::string_view RULE43 = "-------------------------------------------";
 
-inline void line(std::string_view a) { writef(iocom.isout, "(5(1x,a))", a); }
-inline void rule() { line(RULE43); }
-inline void int_line(std::string_view a, int v) { writef(iocom.isout, "(1x,a,1x,i6)", a, v); }
 inline void real_line(std::string_view a, float v) {
     writef(iocom.isout, "(1x,a,1x,g12.4)", a, v);
 }

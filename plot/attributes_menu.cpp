@@ -3,6 +3,7 @@
 #include "plot/attributes_internal.h"
 #include "shell/format.h"
 #include "shell/intera.h"
+#include "shell/menus.h"
 #include "shell/prompts.h"
 
 using namespace attrdetail;
@@ -11,33 +12,32 @@ namespace {
 constexpr version_block VB_SPLOTATTRIBUTES{"splotattributes     ", " 1.0", "2020-10-16"};
 
 void menu(bool iscur) {
-    const int o = iocom.isout;
-    rule();
-    line("         SETTING PLOT ATTRIBUTES");
-    rule();
-    line("GET SETTINGS");
-    writef(o, "(1x,a,1x,l1)", " from currently stored..... 1", iscur);
-    writef(o, "(1x,a,1x,l1)", " from initialisation....... 1", !iscur);
-    line("LINE ATTRIBUTES:");
-    line(" thickness ................10");
-    line(" style ....................11");
-    line(" color ....................12");
-    line("POLYGON FILL ATTRIBUTES:");
-    line(" interior style ...........20");
-    line(" interior color ...........21");
-    line("TEXT ATTRIBUTES:");
-    line(" font .....................30");
-    line(" size .....................31");
-    line(" justification ............32");
-    line(" angle ....................33");
-    line(" color ....................34");
-    line("SYMBOL ATTRIBUTES:");
-    line(" type .....................40");
-    line(" size .....................41");
-    line("COLOR:");
-    line(" color table ..............50");
-    rule();
-    line("EXIT THIS SET UP  .........99");
+    menurule();
+    textline("         SETTING PLOT ATTRIBUTES");
+    menurule();
+    textline("GET SETTINGS");
+    flagline(" from currently stored..... 1", iscur);
+    flagline(" from initialisation....... 1", !iscur);
+    textline("LINE ATTRIBUTES:");
+    textline(" thickness ................10");
+    textline(" style ....................11");
+    textline(" color ....................12");
+    textline("POLYGON FILL ATTRIBUTES:");
+    textline(" interior style ...........20");
+    textline(" interior color ...........21");
+    textline("TEXT ATTRIBUTES:");
+    textline(" font .....................30");
+    textline(" size .....................31");
+    textline(" justification ............32");
+    textline(" angle ....................33");
+    textline(" color ....................34");
+    textline("SYMBOL ATTRIBUTES:");
+    textline(" type .....................40");
+    textline(" size .....................41");
+    textline("COLOR:");
+    textline(" color table ..............50");
+    menurule();
+    textline("EXIT THIS SET UP  .........99");
 }
 }  // namespace
 
@@ -45,9 +45,9 @@ void splotattributes(const int& inter) {
     const version_block& vb = VB_SPLOTATTRIBUTES;
     if (inter == 7 && !iocom.lplotopen) {
         errorhead(vb);
-        line("TRYING TO PROPAGATE PLOT ATTRIBUTES");
-        line(" WITH CLOSED PLOT FILE");
-        line("===> NO ACTION");
+        textline("TRYING TO PROPAGATE PLOT ATTRIBUTES");
+        textline(" WITH CLOSED PLOT FILE");
+        textline("===> NO ACTION");
         errortail00();
         return;
     }
@@ -57,7 +57,7 @@ void splotattributes(const int& inter) {
     float rval = 0.0f;
     if (mode_resets(inter) || inter == 7) {
         submenuhead(vb);
-        line(inter == 7 ? "UPDATING PLOT ATTRIBUTESS" : "INITIALIZING PLOT ATTRIBUTESS");
+        textline(inter == 7 ? "UPDATING PLOT ATTRIBUTESS" : "INITIALIZING PLOT ATTRIBUTESS");
         if (inter != 7) {
             scolortable(inter);
             slinestyle(ival, inter);
@@ -80,14 +80,9 @@ void splotattributes(const int& inter) {
 
     int k = 2;
     bool iscur = true;
-    int ierr = 0;
-    for (;;) {
-        submenuhead(vb);
-        if (iocom.LWITO(2)) menu(iscur);
-        menutail();
-        int irep = 99;
-        inintegdef(irep, "your choice", 99, ierr);
-        switch (irep) {
+    menuloop(vb, [&] { menu(iscur); }, [&](int choice) {
+        int ierr = 0;
+        switch (choice) {
         case 1:
             inlogicdef(iscur, "whether to use current(1) or initial(0) parameters", iscur, ierr);
             k = iscur ? 2 : 4;
@@ -105,8 +100,7 @@ void splotattributes(const int& inter) {
         case 40: ssymboltype(ival, k); break;
         case 41: ssymbolsize(rval, k); break;
         case 50: scolortable(k); break;
-        case 99: return;
         default: break;
         }
-    }
+    });
 }

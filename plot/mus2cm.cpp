@@ -12,26 +12,25 @@ constexpr version_block VB_MUS2CM1{"mus2cm1             ", " 6.6", "2019-10-02"}
 constexpr version_block VB_MUS2CM2{"mus2cm2             ", " 7.6", "2019-10-02"};
 constexpr version_block VB_MUS2CM3{"mus2cm3             ", " 4.5", "2019-10-02"};
 
-void line(std::string_view l) { writef(iocom.isout, "(1x,a)", l); }
 void equals() { writef(iocom.isout, "(1x,42('='))"); }
 
 void conversion_head() {
     equals();
-    line("          CONVERSION SET UP               ");
+    textline("          CONVERSION SET UP               ");
     equals();
-    line("|  cm  |                   |user units|");
-    line("|  on  | <---------------- |   used   |");
-    line("| plot |                   | in calls |");
-    line(" ");
-    line(" |xcm|                         |xu|");
-    line(" |   | <---------------------- |  |");
-    line(" |ycm|                         |yu|");
-    line(" ");
+    textline("|  cm  |                   |user units|");
+    textline("|  on  | <---------------- |   used   |");
+    textline("| plot |                   | in calls |");
+    textline(" ");
+    textline(" |xcm|                         |xu|");
+    textline(" |   | <---------------------- |  |");
+    textline(" |ycm|                         |yu|");
+    textline(" ");
 }
 
 void current_setup_head() {
     equals();
-    line("            Current set up:");
+    textline("            Current set up:");
     equals();
 }
 
@@ -64,9 +63,9 @@ void mus2cm1(float& xcm0, float& ycm0, float& xx, float& xy, float& yx, float& y
     submenuhead(VB_MUS2CM1);
     if (iocom.LWITO(2)) {
         conversion_head();
-        line(" |xcm|     |xx   xy|   |xu|   |xcm0|");
-        line(" |   |  =  |       | * |  | + |    |");
-        line(" |ycm|     |yx   yy|   |yu|   |ycm0|");
+        textline(" |xcm|     |xx   xy|   |xu|   |xcm0|");
+        textline(" |   |  =  |       | * |  | + |    |");
+        textline(" |ycm|     |yx   yy|   |yu|   |ycm0|");
         current_setup_head();
         writef(iocom.isout,
                "(1x,a5     ,3x   ,'|',f7.3,1x,f7.3,'|',3x   ,a4    ,3x   ,'|',f7.3,'|')", "|xcm|",
@@ -86,9 +85,9 @@ void mus2cm2(float& xcm0, float& ycm0, float& xu0, float& yu0, float& xx, float&
     submenuhead(VB_MUS2CM2);
     if (iocom.LWITO(2)) {
         conversion_head();
-        line(" |xcm|   |xx   xy|   |xu-xu0|   |xcm0|");
-        line(" |   | = |       | * |      | + |    |");
-        line(" |ycm|   |yx   yy|   |yu-yu0|   |ycm0|");
+        textline(" |xcm|   |xx   xy|   |xu-xu0|   |xcm0|");
+        textline(" |   | = |       | * |      | + |    |");
+        textline(" |ycm|   |yx   yy|   |yu-yu0|   |ycm0|");
         current_setup_head();
         writef(iocom.isout,
                "(1x,'|',a3,'|',3x   ,'|',f7.3,1x,f7.3,'|',3x   ,'|',a3,f7.3,'|',3x   ,'|',f7.3,'|')",
@@ -113,31 +112,31 @@ void mus2cm3(float& xcm0, float& ycm0, float& xlcm, float& ylcm, float& xumin, f
     submenuhead(VB_MUS2CM3);
     if (iocom.LWITO(2)) {
         current_setup_head();
-        line("     1 - USER UNITS IN USER SPACE         ");
+        textline("     1 - USER UNITS IN USER SPACE         ");
         equals();
         writef(iocom.isout, "(1x,a,f9.3)", "   _|_________________|_  yumax = ", yumax);
-        line("    |                 |");
-        line("    |                 |");
+        textline("    |                 |");
+        textline("    |                 |");
         writef(iocom.isout, "(1x,a,f9.3)", "   _|_________________|_  yumin = ", yumin);
-        line("  xumin             xumax");
-        line(" ");
-        line(" user limits:          xu,yu in user units");
+        textline("  xumin             xumax");
+        textline(" ");
+        textline(" user limits:          xu,yu in user units");
         writef(iocom.isout, "(2(1x,a,f9.3))", " xumin = ", xumin, " yumin = ", yumin);
         writef(iocom.isout, "(2(1x,a,f9.3))", " xumax = ", xumax, " yumax = ", yumax);
         equals();
-        line("     2 - CM UNITS ON PLOT                 ");
+        textline("     2 - CM UNITS ON PLOT                 ");
         equals();
-        line(" paper limits:               xcm,ycm in cm");
+        textline(" paper limits:               xcm,ycm in cm");
         writef(iocom.isout, "(2(1x,a,f9.3))", " xlcm  = ", xlcm, " ylcm  = ", ylcm);
         writef(iocom.isout, "(2(1x,a,f9.3))", " xcm0  = ", xcm0, " ycm0  = ", ycm0);
         equals();
         if (ixy == 1) {
-            line("X & Y scale imposed equal");
+            textline("X & Y scale imposed equal");
         } else if (ixy == 0) {
-            line("X & Y scale will adjust xlcm & ylcm");
+            textline("X & Y scale will adjust xlcm & ylcm");
         } else {
             writef(iocom.isout, "(1x,a,i6,a)", "WARNING: ixy = ", ixy, " neither 0 nor 1");
-            line("      will have same effect as ixy = 0");
+            textline("      will have same effect as ixy = 0");
         }
         equals();
     }

@@ -2,6 +2,7 @@
 
 #include "shell/format.h"
 #include "shell/frames.h"
+#include "shell/menus.h"
 #include "shell/prompts.h"
 #include "shell/sio.h"
 #include "shell/units.h"
@@ -12,7 +13,6 @@ constexpr version_block VB_ALTSIO2{"altsio2", " 2.0", "2024-02-05"};
 constexpr version_block VB_BEGINALTSI2{"beginaltsi2", " 2.0", "2024-02-05"};
 constexpr version_block VB_ENDALTSI2{"endaltsi2", " 2.0", "2024-02-05"};
 
-void menu_line(std::string_view l) { writef(iocom.isout, "(3(1x,a))", l); }
 }  // namespace
 
 void altsio2(fstr_ref fname, int& answer, int intera) {
@@ -21,13 +21,13 @@ void altsio2(fstr_ref fname, int& answer, int intera) {
         // Shown whatever the output level: inside a command file this menu
         // is the only trace of where the file stands.
         submenuhead(VB_ALTSIO2);
-        menu_line(DASHED);
-        menu_line("ALTERNATE STANDARD INPUT");
-        menu_line(DASHED);
-        menu_line("START COMMAND FILE ..................5001");
-        menu_line("EXIT COMMAND FILE AND CONTINUE.......5002");
-        menu_line("EXIT COMMAND FILE AND QUIT ..........5003");
-        menu_line("EXIT THIS SUBROUTINE ..................99");
+        textline(DASHED);
+        textline("ALTERNATE STANDARD INPUT");
+        textline(DASHED);
+        textline("START COMMAND FILE ..................5001");
+        textline("EXIT COMMAND FILE AND CONTINUE.......5002");
+        textline("EXIT COMMAND FILE AND QUIT ..........5003");
+        textline("EXIT THIS SUBROUTINE ..................99");
         menutail();
         answer = 99;
         inintegdef(answer, "your choice", 99, ierr);

@@ -11,6 +11,7 @@
 #include "shell/console.h"
 #include "shell/format.h"
 #include "shell/frames.h"
+#include "shell/menus.h"
 #include "shell/prompts.h"
 #include "shell/runinfo.h"
 #include "shell/sio.h"
@@ -25,21 +26,20 @@ const fstr<20> PROGRAM_NAME = "tarnolix            ";
 const fstr<4> PROGRAM_VERSION = "12.3";
 const fstr<10> PROGRAM_DATE = "2024-09-14";
 
-void menu_line(std::string_view l) { writef(iocom.isout, "(3(1x,a))", l); }
 
 void print_main_menu() {
-    menu_line(DASHED);
-    menu_line("GENERAL PARAMETERS");
-    menu_line(DASHED);
-    menu_line("input/output status ................... 1");
-    menu_line("Run info set up ........................2");
-    menu_line(DASHED);
-    menu_line("PLOT PARAMETERS");
-    menu_line(DASHED);
-    menu_line("open plot file ........................10");
-    menu_line("set plot L/P,scaling,attributes,axes ..13");
-    menu_line("set projection ........................14");
-    menu_line("close plot file .......................20");
+    textline(DASHED);
+    textline("GENERAL PARAMETERS");
+    textline(DASHED);
+    textline("input/output status ................... 1");
+    textline("Run info set up ........................2");
+    textline(DASHED);
+    textline("PLOT PARAMETERS");
+    textline(DASHED);
+    textline("open plot file ........................10");
+    textline("set plot L/P,scaling,attributes,axes ..13");
+    textline("set projection ........................14");
+    textline("close plot file .......................20");
     {
         welldat_t& w = welldat;
         int ilist = 0;
@@ -47,21 +47,21 @@ void print_main_menu() {
                      w.titlewd.sv(), w.ndatwd, MAXDATWD, w.NAMVAR, w.nvarwd, MAXVARWD,
                      w.JCOL.data(), w.NAMCOL, w.ncolwd, MAXCOLWD, ilist, 1);
     }
-    menu_line(DASHED);
-    menu_line("WELL DATA COMMANDS");
-    menu_line(DASHED);
-    menu_line("Read data from file ..................100");
-    menu_line("Set Borehole Parameters ..............110");
-    menu_line("Analysis & depth plots ...............120");
-    menu_line("Statistics plots .....................130");
-    menu_line("Perspective plots ....................140");
-    menu_line(DASHED);
-    menu_line("GENERAL COMMANDS");
-    menu_line(DASHED);
-    menu_line("Use command file.....................5000");
-    menu_line("Output level control ................5100");
-    menu_line("QUIT..................................999");
-    menu_line("FAST QUIT............................9999");
+    textline(DASHED);
+    textline("WELL DATA COMMANDS");
+    textline(DASHED);
+    textline("Read data from file ..................100");
+    textline("Set Borehole Parameters ..............110");
+    textline("Analysis & depth plots ...............120");
+    textline("Statistics plots .....................130");
+    textline("Perspective plots ....................140");
+    textline(DASHED);
+    textline("GENERAL COMMANDS");
+    textline(DASHED);
+    textline("Use command file.....................5000");
+    textline("Output level control ................5100");
+    textline("QUIT..................................999");
+    textline("FAST QUIT............................9999");
     menutail();
 }
 

@@ -319,12 +319,51 @@ int logic_answer(char c) {
 
 }  // namespace
 
+namespace {
+
+// The loop both yes/no questions share: ask, read, and on a record that
+// can't be read or an answer that isn't one say so (again: how the frame
+// ends) and ask again; h shows the help. The answer is echoed, then the
+// question closes with dots.
+template <class Ask, class Dots>
+bool logic_loop(const version_block& vb, const int& iunit, const int& ounit, std::string_view t, bool def,
+                std::string_view again, Ask ask, Dots dots) {
+    std::string rec;
+    for (;;) {
+        ask();
+        if (!unit_read(iunit, rec)) {
+            errorhead(vb);
+            writef(ounit, "(5(1x,a))", "could not read answer to", t);
+            writef(ounit, "(5(1x,a))", again);
+            errortail00();
+            continue;
+        }
+        char c = rec.empty() ? ' ' : rec[0];
+        int a = logic_answer(c);
+        if (a == -2) {
+            if (c != 'h' && c != 'H') {
+                errorhead(vb);
+                writef(ounit, "(5(1x,a))", "incorrect answer:", std::string_view(&c, 1));
+                writef(ounit, "(5(1x,a))", again);
+                errortail00();
+            }
+            logic_help(vb, ounit);
+            continue;
+        }
+        const bool value = a == -1 ? def : a == 1;
+        writef(ounit, "(5(1x,a))", "New value = ", value ? "Yes" : "No");
+        dots();
+        return value;
+    }
+}
+
+}  // namespace
+
 void inlogicdef(bool& value, std::string_view text, bool def, int& ierr) {
     ierr = 0;
     std::string_view t = trimmed(text);
     const char* defword = def ? "Yes" : "No";
-    std::string rec;
-    for (;;) {
+    auto ask = [&] {
         dotted();
         textline(t, "?");
         if (iocom.LWITO(2)) {
@@ -332,67 +371,24 @@ void inlogicdef(bool& value, std::string_view text, bool def, int& ierr) {
             textline("or return for default value or h for help");
             textline("Default =", defword);
         }
-        if (!unit_read(iocom.isin, rec)) {
-            errorhead(VB_INLOGICDEF);
-            textline("could not read answer to", t);
-            textline("==> ASKING AGAIN");
-            errortail00();
-            continue;
-        }
-        char c = rec.empty() ? ' ' : rec[0];
-        int a = logic_answer(c);
-        if (a == -2) {
-            if (c != 'h' && c != 'H') {
-                errorhead(VB_INLOGICDEF);
-                textline("incorrect answer:", std::string_view(&c, 1));
-                textline("==> ASKING AGAIN");
-                errortail00();
-            }
-            logic_help(VB_INLOGICDEF, iocom.isout);
-            continue;
-        }
-        value = a == -1 ? def : a == 1;
-        textline("New value = ", value ? "Yes" : "No");
-        dotted();
-        return;
-    }
+    };
+    value = logic_loop(VB_INLOGICDEF, iocom.isin, iocom.isout, t, def, "==> ASKING AGAIN", ask,
+                       dotted);
 }
 
 void inlogicdef2(bool& value, std::string_view text, bool def, int iunit, int ounit, int& ierr) {
     ierr = 0;
     std::string_view t = trimmed(text);
     const char* defword = def ? "Yes" : "No";
-    std::string rec;
     writef(ounit, "(5(1x,a))", DOTTED);
-    for (;;) {
+    auto ask = [&] {
         writef(ounit, "(5(1x,a))", t, "?");
         writef(ounit, "(5(1x,a))", "Enter", "(0/1)(n/y)(N/Y)");
         writef(ounit, "(5(1x,a))", "or return for default value or h for help");
         writef(ounit, "(5(1x,a))", "Default =", defword);
-        if (!unit_read(iunit, rec)) {
-            errorhead(VB_INLOGICDEF2);
-            writef(ounit, "(5(1x,a))", "could not read answer to", t);
-            writef(ounit, "(5(1x,a))", "==> WILL ASK QUESTION AGAIN");
-            errortail00();
-            continue;
-        }
-        char c = rec.empty() ? ' ' : rec[0];
-        int a = logic_answer(c);
-        if (a == -2) {
-            if (c != 'h' && c != 'H') {
-                errorhead(VB_INLOGICDEF2);
-                writef(ounit, "(5(1x,a))", "incorrect answer:", std::string_view(&c, 1));
-                writef(ounit, "(5(1x,a))", "==> WILL ASK QUESTION AGAIN");
-                errortail00();
-            }
-            logic_help(VB_INLOGICDEF2, ounit);
-            continue;
-        }
-        value = a == -1 ? def : a == 1;
-        writef(ounit, "(5(1x,a))", "New value = ", value ? "Yes" : "No");
-        writef(ounit, "(5(1x,a))", DOTTED);
-        return;
-    }
+    };
+    value = logic_loop(VB_INLOGICDEF2, iunit, ounit, t, def, "==> WILL ASK QUESTION AGAIN", ask,
+                       [&] { writef(ounit, "(5(1x,a))", DOTTED); });
 }
 
 namespace {

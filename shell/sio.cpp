@@ -3,6 +3,7 @@
 #include "shell/format.h"
 #include "shell/frames.h"
 #include "shell/intera.h"
+#include "shell/menus.h"
 #include "shell/prompts.h"
 
 iocom_t iocom{5, 6, 5, 6, 0, 0, false, false, true, {{true, true, false}}};
@@ -51,7 +52,6 @@ void writesio(int unit) {
 }
 
 void moutputn(int) {
-    int ierr = 0;
     for (;;) {
         submenuhead(VB_MOUTPUTN);
         textline(DASHED);
@@ -64,9 +64,7 @@ void moutputn(int) {
                    iocom.LWITO(level), level);
         textline(DASHED);
         textline("EXIT THIS SUBROUTINE ..................99");
-        menutail();
-        int choice = 99;
-        inintegdef(choice, "your choice", 99, ierr);
+        const int choice = menuchoice();
         if (choice >= 1 && choice <= 3) {
             bool enabled = iocom.LWITO(choice);
             moutput1(enabled, choice, 2);
@@ -100,9 +98,7 @@ void moutput1(bool& enabled, int level, int intera) {
             textline(DASHED);
             textline("Modify set up .........................10");
             textline("SET & EXIT ............................99");
-            menutail();
-            int choice = 99;
-            inintegdef(choice, "your choice", 99, ierr);
+            const int choice = menuchoice();
             if (choice == 10) {
                 std::string q = "enable level " + std::to_string(level) + " output";
                 inlogicdef(enabled, q, enabled, ierr);

@@ -7,6 +7,7 @@
 #include "shell/format.h"
 #include "shell/frames.h"
 #include "shell/intera.h"
+#include "shell/menus.h"
 #include "shell/prompts.h"
 #include "shell/sio.h"
 #include "shell/textlen.h"
@@ -231,10 +232,8 @@ void scol2var2(int& ierr, int* jcola, int* jfcola, fstr_array_ref namvara, int& 
         if (ilevel == 4) textline("Change nb of variables to read...200");
         textline("Change listing type .............300");
         textline("SET UP IS OK, EXIT AND PROCEED ...99");
-        menutail();
-
-        int choice = 99, ie = 0;
-        inintegdef(choice, "your choice", 99, ie);
+        const int choice = menuchoice();
+        int ie = 0;
         if (choice == 200 && ilevel == 4) {
             int old = nvar;
             inintegvindef(nvar, "total nb of variables to store", nvar, 0, most, ie);

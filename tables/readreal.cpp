@@ -9,6 +9,7 @@
 #include "shell/format.h"
 #include "shell/frames.h"
 #include "shell/intera.h"
+#include "shell/menus.h"
 #include "shell/prompts.h"
 #include "shell/sio.h"
 #include "shell/textconv.h"
@@ -272,9 +273,8 @@ void sfheader1(int& ierr, int& nlinedisp, int& iskip, int& ititle, int& iheader,
                    iheader);
             textline("HELP ............................900");
             textline("SET UP IS OK, EXIT AND PROCEED ...99");
-            menutail();
-            int choice = 99, ie = 0;
-            inintegdef(choice, "your choice", 99, ie);
+            const int choice = menuchoice();
+            int ie = 0;
             if (choice == 99) break;
             switch (choice) {
             case 100: inintegdef(nlinedisp, "Number of header lines to display", nlinedisp, ie); break;

@@ -3,6 +3,7 @@
 #include "shell/format.h"
 #include "shell/frames.h"
 #include "shell/intera.h"
+#include "shell/menus.h"
 #include "shell/prompts.h"
 #include "shell/sio.h"
 
@@ -13,7 +14,6 @@ namespace {
 
 constexpr version_block VB_SCPTNP{"scptnp     ", " 1.2", "2015-11-16"};
 
-void int_line(std::string_view a, int v) { writef(iocom.isout, "(1x,a,1x,i6)", a, v); }
 
 }  // namespace
 
@@ -23,7 +23,7 @@ void scptnp(int& npcurve, const int& inter) {
     if (mode_resets(inter)) {
         npcurve = 11;
         submenuhead(vb);
-        int_line("INITIALIZING NUMBER OF POINTS TO:", npcurve);
+        intline("INITIALIZING NUMBER OF POINTS TO:", npcurve);
     }
     if (mode_talks(inter)) {
         for (;;) {
@@ -32,15 +32,14 @@ void scptnp(int& npcurve, const int& inter) {
                 textline(DASHED);
                 textline("RUNNING POINT PARAMETERS:                  ");
                 textline(DASHED);
-                int_line("max nb of points ................", NCURVEMAX);
-                int_line("nb of points ..................10", npcurve);
-                int_line("nb of segments ..................", npcurve - 1);
+                intline("max nb of points ................", NCURVEMAX);
+                intline("nb of points ..................10", npcurve);
+                intline("nb of segments ..................", npcurve - 1);
                 textline(DASHED);
                 textline("EXIT ..........................99");
             }
-            menutail();
-            int choice = 99, ierr = 0;
-            inintegdef(choice, "your choice", 99, ierr);
+            const int choice = menuchoice();
+            int ierr = 0;
             if (choice == 99) break;
             if (choice == 10) inintegvindef(npcurve, "nb of pts per curve", npcurve, 1, NCURVEMAX, ierr);
         }
@@ -48,25 +47,25 @@ void scptnp(int& npcurve, const int& inter) {
 
     if (npcurve > NCURVEMAX) {
         warninghead(vb);
-        int_line("nb of points =", npcurve);
-        int_line("> curve buffer size =", NCURVEMAX);
+        intline("nb of points =", npcurve);
+        intline("> curve buffer size =", NCURVEMAX);
         npcurve = NCURVEMAX;
-        int_line("===> reset nb of points =", npcurve);
+        intline("===> reset nb of points =", npcurve);
         textline("===> WILL NOT PLOT ALL THE DATA");
         warningtail00();
     } else if (npcurve == 1 && inter != 6 && inter != 7) {
         warninghead(vb);
-        int_line("nb of points =", npcurve);
+        intline("nb of points =", npcurve);
         textline("===> WILL PLOT ONLY ONE POINT");
         warningtail00();
     } else if (npcurve < 1) {
         // A count below one comes from a caller's bounds and increment.
         errorhead(vb);
-        int_line("nb of points np =", npcurve);
+        intline("nb of points np =", npcurve);
         textline("===> UPSTREAM PROBLEM ?");
         textline("Increment inconsistent with bounds ?");
         npcurve = 1;
-        int_line("===> RESETTING np =", npcurve);
+        intline("===> RESETTING np =", npcurve);
         errortail00();
     }
     ptblock.npcurve = npcurve;

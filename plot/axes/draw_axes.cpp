@@ -11,6 +11,7 @@
 #include "plot/pages.h"
 #include "shell/format.h"
 #include "shell/frames.h"
+#include "shell/menus.h"
 #include "shell/sio.h"
 #include "shell/textconv.h"
 #include "shell/textlen.h"
@@ -23,8 +24,6 @@ constexpr version_block VB_D1BX2D{"d1bx2d     ", " 2.1", "2012-05-09"};
 
 constexpr int NUMLEN = 20;  // characters of a number text
 
-void real_line(std::string_view a, float v) { writef(iocom.isout, "(1x,a,1x,g12.5)", a, v); }
-void int_line(std::string_view a, int v) { writef(iocom.isout, "(1x,a,1x,i6)", a, v); }
 
 // An angle in degrees wrapped into (-period/2, period/2].
 float wrapped(float angle, float period) {
@@ -75,9 +74,9 @@ float number_width(float wau1, float wau2, int nawdig) {
 }
 
 void bounds_lines(float wau1, float wau2, float waud) {
-    real_line("initial value      =", wau1);
-    real_line("final   value      =", wau2);
-    real_line("increment          =", waud);
+    realline("initial value      =", wau1);
+    realline("final   value      =", wau2);
+    realline("increment          =", waud);
 }
 
 // One axis's annotation, as usbax6 hands it on to cmaxis11.
@@ -114,7 +113,7 @@ void cmtic2(const farr<float, 2>& ORIG, const farr<float, 2>& DTIC, const farr<f
             const float& ratio, const int& ntics, const int& NASUBINT, const int& nrest) {
     if (ntics < 1) {
         warninghead(VB_CMTIC2);
-        int_line("ntics =", ntics);
+        intline("ntics =", ntics);
         textline("< 1 ==> NO TICKMARKS");
         warningtail00();
         return;
@@ -205,7 +204,7 @@ void cmaxis11(const float& x0, const float& y0, const float& x1, const float& y1
             warninghead(VB_CMAXIS11);
             textline("Inconsistent annotation increment:");
             bounds_lines(WAU1, WAU2, WAUD);
-            real_line("=> RESET increment =", d);
+            realline("=> RESET increment =", d);
             warningtail00();
         }
 
@@ -327,8 +326,8 @@ void usbax6(const float& xfirst, const float& xlast, const float& yfirst, const 
 void d1bx2d(const int& ibox) {
     if (ibox != 1) {
         errorhead(VB_D1BX2D);
-        int_line("trying to draw box nb =", ibox);
-        int_line("max box nb =", MAXBOX);
+        intline("trying to draw box nb =", ibox);
+        intline("max box nb =", MAXBOX);
         textline("===> NO ACTION");
         errortail00();
         return;
@@ -340,8 +339,8 @@ void d1bx2d(const int& ibox) {
     for (int iaxis : {ix, iy}) {
         if (iaxis < 1 || iaxis > MAXAXIS) {
             errorhead(VB_D1BX2D);
-            int_line("trying to set axis nb =", iaxis);
-            int_line("max axis nb =", MAXAXIS);
+            intline("trying to set axis nb =", iaxis);
+            intline("max axis nb =", MAXAXIS);
             textline("===> NO ACTION");
             errortail00();
             return;

@@ -3,6 +3,7 @@
 #include "shell/format.h"
 #include "shell/frames.h"
 #include "shell/intera.h"
+#include "shell/menus.h"
 #include "shell/prompts.h"
 #include "shell/sio.h"
 
@@ -22,11 +23,6 @@ constexpr std::string_view RULE35 = "-----------------------------------";
 constexpr std::string_view DEFAULT_AXIS_LABEL = "Generic 0-10 axis";
 constexpr std::string_view DEFAULT_BOX_LABEL = "Generic box";
 
-void int_line(std::string_view a, int v) { writef(iocom.isout, "(1x,a,1x,i6)", a, v); }
-void real_line(std::string_view a, float v) { writef(iocom.isout, "(1x,a,1x,g12.5)", a, v); }
-void text_line(std::string_view a, std::string_view b) {
-    writef(iocom.isout, "(1x,a,1x,a)", a, b);
-}
 
 bool fetches(int inter) { return mode_from_store(inter) || inter == 10; }
 bool resets(int inter) { return mode_resets(inter); }
@@ -35,8 +31,8 @@ bool resets(int inter) { return mode_resets(inter); }
 bool bad_axis(const version_block& vb, int iaxis) {
     if (iaxis >= 1 && iaxis <= MAXAXIS) return false;
     errorhead(vb);
-    int_line("trying to set axis nb =", iaxis);
-    int_line("max axis nb =", MAXAXIS);
+    intline("trying to set axis nb =", iaxis);
+    intline("max axis nb =", MAXAXIS);
     textline("===> NO ACTION");
     errortail00();
     return true;
@@ -101,30 +97,29 @@ void set_axis(const version_block& vb, float& USA1, float& USA2, float& WAU1, fl
             submenuhead(vb);
             if (iocom.LWITO(2)) {
                 textline("Sizes:");
-                int_line("max nb of axis    =", MAXAXIS);
-                int_line("axis label length =", AXLABLEN);
-                int_line("SETTING UP AXIS #", iaxis);
+                intline("max nb of axis    =", MAXAXIS);
+                intline("axis label length =", AXLABLEN);
+                intline("SETTING UP AXIS #", iaxis);
                 if (a.IUSWDTYP(iaxis) == 1) {
                     textline("user space = annotation");
                 } else {
                     textline("user space:");
-                    real_line("initial value ....................1", USA1);
-                    real_line("final   value ....................2", USA2);
+                    realline("initial value ....................1", USA1);
+                    realline("final   value ....................2", USA2);
                     textline("annotation:");
                 }
-                real_line("initial value ...................20", WAU1);
-                real_line("final   value ...................21", WAU2);
-                real_line("increment .......................22", WAUD);
-                real_line("size in cm ......................23", WALAS);
-                int_line("nb of digits after dec. point ...24", NAWDIG);
-                int_line("nb of subtics intervals..........25", NASUBINT);
-                text_line("axis label ......................26", WALAB.sv());
-                if (nlabintk) int_line("nb of tics intervals for label ..27", *nlabintk);
+                realline("initial value ...................20", WAU1);
+                realline("final   value ...................21", WAU2);
+                realline("increment .......................22", WAUD);
+                realline("size in cm ......................23", WALAS);
+                intline("nb of digits after dec. point ...24", NAWDIG);
+                intline("nb of subtics intervals..........25", NASUBINT);
+                textline("axis label ......................26", WALAB.sv());
+                if (nlabintk) intline("nb of tics intervals for label ..27", *nlabintk);
                 textline("EXIT.............................99");
             }
-            menutail();
-            int choice = 99, ierr = 0;
-            inintegdef(choice, "your choice", 99, ierr);
+            const int choice = menuchoice();
+            int ierr = 0;
             if (choice == 99) break;
             const bool user = a.IUSWDTYP(iaxis) != 1;
             switch (choice) {
@@ -155,11 +150,11 @@ void set_axis(const version_block& vb, float& USA1, float& USA2, float& WAU1, fl
         if (!inconsistent(WAU1, WAU2, WAUD)) break;
         warninghead(vb);
         textline("Inconsistent annotation increment:");
-        real_line("initial value      =", WAU1);
-        real_line("final   value      =", WAU2);
-        real_line("increment          =", WAUD);
+        realline("initial value      =", WAU1);
+        realline("final   value      =", WAU2);
+        realline("increment          =", WAUD);
         WAUD = WAUD == 0.0f ? (WAU2 - WAU1) * 0.5f : -WAUD;
-        real_line("=> RESET increment =", WAUD);
+        realline("=> RESET increment =", WAUD);
         warningtail00();
         if (!menu) break;
     }
@@ -232,10 +227,10 @@ void s1axuswdtyp(int& IUSWDTYP, float& WAOUS, const int& iaxis, const int& inter
     } else if (IUSWDTYP < 0 || IUSWDTYP > 1) {
         // The scaled link is only to be chosen in the menu.
         warninghead(vb);
-        int_line("trying to set us/wd type =", IUSWDTYP);
+        intline("trying to set us/wd type =", IUSWDTYP);
         textline("UNKNOWN TYPE");
         IUSWDTYP = 0;
-        int_line("==> RESET TYPE =", IUSWDTYP);
+        intline("==> RESET TYPE =", IUSWDTYP);
         warningtail00();
     }
 
@@ -243,26 +238,25 @@ void s1axuswdtyp(int& IUSWDTYP, float& WAOUS, const int& iaxis, const int& inter
         for (;;) {
             if (WAOUS == 0.0f) {
                 warninghead(vb);
-                real_line("trying to set wd/us scaling =", WAOUS);
+                realline("trying to set wd/us scaling =", WAOUS);
                 WAOUS = 1.0f;
-                real_line("==> RESET SCALING =", WAOUS);
+                realline("==> RESET SCALING =", WAOUS);
                 warningtail00();
             }
             submenuhead(vb);
             if (iocom.LWITO(2)) {
-                int_line("SETTING UP AXIS #", iaxis);
-                int_line("max nb of axis    =", MAXAXIS);
+                intline("SETTING UP AXIS #", iaxis);
+                intline("max nb of axis    =", MAXAXIS);
                 textline(DASHED);
                 textline(IUSWDTYP == 1 ? "user space = annotation"
                                        : "user space and annotations independent");
-                int_line("user space versus annotations ...10", IUSWDTYP);
-                real_line("annotations/user scaling  .......20", WAOUS);
+                intline("user space versus annotations ...10", IUSWDTYP);
+                realline("annotations/user scaling  .......20", WAOUS);
                 textline(DASHED);
                 textline("EXIT.............................99");
             }
-            menutail();
-            int choice = 99, ierr = 0;
-            inintegdef(choice, "your choice", 99, ierr);
+            const int choice = menuchoice();
+            int ierr = 0;
             if (choice == 99) break;
             if (choice == 10) {
                 textline("link between user units and annotations:");
@@ -312,9 +306,7 @@ void snaxis(const int& inter) {
             textline("Go through all axes.............100");
             textline("EXIT.............................99");
         }
-        menutail();
-        int choice = 99, ierr = 0;
-        inintegdef(choice, "your choice", 99, ierr);
+        const int choice = menuchoice();
         if (choice == 99) break;
         if (choice >= 1 && choice <= MAXAXIS) {
             edit_axis(choice, inter);
@@ -327,8 +319,8 @@ void snaxis(const int& inter) {
 void g1axbd(float& usa1, float& usa2, const int& iaxis) {
     if (iaxis < 1 || iaxis > MAXAXIS) {
         errorhead(VB_G1AXBD);
-        int_line("trying to get bounds of axis nb =", iaxis);
-        int_line("max axis nb =", MAXAXIS);
+        intline("trying to get bounds of axis nb =", iaxis);
+        intline("max axis nb =", MAXAXIS);
         textline("===> RETURNING [0, 10]");
         errortail00();
         usa1 = 0.0f;
@@ -344,8 +336,8 @@ void s1bx2d(int& ixaxisbx, int& iyaxisbx, int& left, int& right, int& bottom, in
     const version_block& vb = VB_S1BX2D;
     if (ibox != 1) {
         errorhead(vb);
-        int_line("trying to set box nb =", ibox);
-        int_line("max box nb =", MAXBOX);
+        intline("trying to set box nb =", ibox);
+        intline("max box nb =", MAXBOX);
         textline("===> NO ACTION");
         errortail00();
         return;
@@ -376,10 +368,10 @@ void s1bx2d(int& ixaxisbx, int& iyaxisbx, int& left, int& right, int& bottom, in
             int& n = *axes[k];
             if (n >= 1 && n <= MAXAXIS) continue;
             errorhead(vb);
-            int_line("trying to set axis nb =", n);
-            int_line("max axis nb =", MAXAXIS);
+            intline("trying to set axis nb =", n);
+            intline("max axis nb =", MAXAXIS);
             n = k + 1;
-            int_line("==> RESET axis nb =", n);
+            intline("==> RESET axis nb =", n);
             errortail00();
         }
     }
@@ -388,32 +380,31 @@ void s1bx2d(int& ixaxisbx, int& iyaxisbx, int& left, int& right, int& bottom, in
         for (;;) {
             submenuhead(vb);
             if (iocom.LWITO(2)) {
-                int_line("SETTING BOX #", ibox);
+                intline("SETTING BOX #", ibox);
                 textline(DASHED);
-                text_line("X axis label:", label_of(ixaxisbx));
-                int_line("X axis nb........................10", ixaxisbx);
+                textline("X axis label:", label_of(ixaxisbx));
+                intline("X axis nb........................10", ixaxisbx);
                 textline("X axis params ...................11");
                 textline(RULE35);
-                text_line("Y axis label:", label_of(iyaxisbx));
-                int_line("Y axis nb........................20", iyaxisbx);
+                textline("Y axis label:", label_of(iyaxisbx));
+                intline("Y axis nb........................20", iyaxisbx);
                 textline("Y axis params ...................21");
                 textline(DASHED);
                 textline("Border types:");
-                int_line("left ............................30", left);
-                int_line("right ...........................31", right);
-                int_line("bottom ..........................32", bottom);
-                int_line("top .............................33", top);
+                intline("left ............................30", left);
+                intline("right ...........................31", right);
+                intline("bottom ..........................32", bottom);
+                intline("top .............................33", top);
                 textline(DASHED);
-                text_line("Box label   :", boxlabel.sv());
-                int_line("Clipping ........................40", iclipbx);
-                int_line("X=0 & Y=0 mark line .............50", izerobx);
+                textline("Box label   :", boxlabel.sv());
+                intline("Clipping ........................40", iclipbx);
+                intline("X=0 & Y=0 mark line .............50", izerobx);
                 textline("Change box label ................60");
                 textline(DASHED);
                 textline("EXIT.............................99");
             }
-            menutail();
-            int choice = 99, ierr = 0;
-            inintegdef(choice, "your choice", 99, ierr);
+            const int choice = menuchoice();
+            int ierr = 0;
             if (choice == 99) break;
             switch (choice) {
             case 10:
