@@ -248,7 +248,7 @@ void logplot2(const int& intera) {
     ssubinfo2(VB_LOGPLOT2.name, VB_LOGPLOT2.version, VB_LOGPLOT2.date);
 
     // The IWD1 columns, passed on so that no track uses the numbers.
-    [[maybe_unused]] const int icwork = IWD_WORK;
+    const int icwork = IWD_WORK;
     const int icsize = IWD_SIZE, icdc = IWD_DC, icmax = IWD_MAX, icrb = IWD_RB;
 
     // Entering: box 1 across the AzCmax scale and down the depth.
@@ -339,10 +339,17 @@ void logplot2(const int& intera) {
         // Still to come, in this place and order:
         //   log_rot_plot(itop, ibot, nrotf, nrotc, icmd) with lcal, for 302
         //     to 305 and 353;
-        //   with lazc: log_azcm_11cdcat_plot2 for 355 and 361; then one of
-        //     log_azcm_8hgcat_plot (lrb, 356, 357), log_azcm_7hgcat_plot
-        //     (lrb, 358 to 362) or else log_azcm_tst_plot;
-        //   log_azcm_select_plot for 360 and 362 with lazc;
+        //   with lazc: log_azcm_11cdcat_plot2 for 355 and 361.
+        if (lazc) {
+            // The category pages (with RB) are the category routines'
+            // (log_azcm_8hgcat_plot for 356, 357, log_azcm_7hgcat_plot for
+            // 358 to 362, still to come); every other command goes to the
+            // shape tests.
+            const bool category = lrb && icmd >= 356 && icmd <= 362;
+            if (!category)
+                log_azcm_tst_plot(icwork, icsize, icdc, icrb, itop, ibot, nsel, jcc, lrb, icmd);
+        }
+        // Still to come: log_azcm_select_plot for 360 and 362 with lazc;
         //   the full output for 500 with ldata.
     }
 

@@ -38,6 +38,15 @@ void log_dat_plot3(const int& itop, const int& ibot, const bool& ldata, const bo
 // curve (301 to 305, 353, 357, 359, 360). Called only with the calipers.
 void log_p1az_plot(const int& itop, const int& ibot, const int& icmd);
 
+// The borehole shape tests (ASE, ADE, ARK, |DC| levels, saturation,
+// Cmin - BS): AzCmax at the depths that pass (or fail) each test of the
+// page, with the counts on the console; 333 and 335 also write the rows
+// kept by the global test to a table. Rows itop..ibot (nsel of them);
+// the tests that need RB run only with lrb. Writes IWD1 column icwork.
+void log_azcm_tst_plot(const int& icwork, const int& icsize, const int& icdc, const int& icrb,
+                       const int& itop, const int& ibot, const int& nsel,
+                       const farr<int, 2>& jcc, const bool& lrb, const int& icmd);
+
 // ---------------------------------------------------------------------------
 // Work columns of RWD1 that the tracks fill for drawing. Rows 1 and 2 of
 // columns 9 and 10 also carry the two points of a reference line.
