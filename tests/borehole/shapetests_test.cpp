@@ -1,0 +1,258 @@
+// The shape tests: the rules on single rows, the count frames of every
+// test page on hand-made rows, and the sample well through the log menu
+// with its extracted tables and rendered pages.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <limits>
+#include <map>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "borehole/logplot2.h"
+#include "borehole/shaperules.h"
+#include "borehole/tracks.h"
+#include "borehole/wellplot.h"
+#include "math/angles.h"
+#include "plot/attributes.h"
+#include "plot/ghostscript.h"
+#include "plot/pages.h"
+#include "shell/format.h"
+#include "shell/runinfo.h"
+#include "well/well_fixture.h"
+
+namespace {
+
+using lines_t = std::vector<std::string>;
+using counts_t = std::vector<std::pair<std::string, int>>;
+constexpr float NaN = std::numeric_limits<float>::quiet_NaN();
+const std::string DASH = " -------------------------------------------";
+
+TEST(ShapeRules, EachRuleTakesItsSizeCodesAndItsDcAndRbResults) {
+    using enum shaperule;
+    // Codes that pass with d = 1 and r = 1 (r = 0 for TARK3).
+    const std::map<shaperule, std::set<int>> codes = {
+        {TG, {50, 60, 70}},        {TE, {80, 90, 100}},       {TK, {30, 40}},
+        {TASE2, {50, 60, 70}},     {TASE3, {50, 60, 70}},     {TADE2, {80, 90, 100}},
+        {TADE3, {80, 90, 100}},    {TARK3, {30, 40}},         {TSMAX, {40, 70, 90, 110}},
+        {TSMIN, {100, 110}},       {TU12, {10, 20, 30, 50, 60, 80}},
+        {TU1O2, {10, 20, 30, 40, 50, 60, 70, 80, 90, 100}}, {TBS, {50, 60, 70, 80, 90, 100, 110}},
+    };
+    for (const auto& [rule, pass] : codes)
+        for (int c = 10; c <= 110; c += 10)
+            EXPECT_EQ(shapepass(rule, {c, 1, rule == TARK3 ? 0 : 1, 0.f, 0.f}, 37.f, 37.f),
+                      pass.count(c) == 1)
+                << int(rule) << " " << c;
+    // d and r on a code each test takes: {d, r} -> TASE2, TASE3, TADE2, TADE3, TARK3.
+    const std::map<std::pair<int, int>, std::vector<bool>> dr = {
+        {{0, 0}, {false, false, false, false, true}},
+        {{0, 1}, {false, false, false, false, false}},
+        {{1, 0}, {true, false, true, false, true}},
+        {{1, 1}, {true, true, true, true, false}},
+    };
+    for (const auto& [key, want] : dr) {
+        const auto [d, r] = key;
+        std::vector<bool> got;
+        for (auto [rule, c] : {std::pair{TASE2, 60}, {TASE3, 60}, {TADE2, 90}, {TADE3, 90},
+                               {TARK3, 30}})
+            got.push_back(shapepass(rule, {c, d, r, 0.f, 0.f}, 37.f, 37.f));
+        EXPECT_EQ(got, want) << d << r;
+    }
+    // Saturation of each caliper at its own limit; NaN is not saturated.
+    EXPECT_TRUE(shapepass(TS1, {10, 0, 0, 36.f, 0.f}, 36.f, 40.f));
+    EXPECT_FALSE(shapepass(TS1, {110, 0, 0, 35.99f, 40.f}, 36.f, 40.f));
+    EXPECT_TRUE(shapepass(TS2, {10, 0, 0, 0.f, 40.f}, 36.f, 40.f));
+    EXPECT_FALSE(shapepass(TS2, {110, 0, 0, 40.f, 39.99f}, 36.f, 40.f));
+    EXPECT_FALSE(shapepass(TS1, {110, 1, 1, NaN, NaN}, 36.f, 40.f));
+    EXPECT_FALSE(shapepass(TS2, {110, 1, 1, NaN, NaN}, 36.f, 40.f));
+}
+
+// 44 rows: each size code with each pair of DC and RB results.
+struct ShapePages : WellDialogue {
+    welldat_t& w = welldat;
+    farr<int, 2> jcc;
+    int n = 44;
+
+    void SetUp() override {
+        WellDialogue::SetUp();
+        iocom.lpause = false;
+        trigoset();
+        plt1blk = plt1blk_t{};
+        splotattributes(5);
+        type({""});
+        fstr<40> name = "shape.ps";
+        plinit(name, 5);
+        swellplot(5);
+        int id = 210;
+        wdtype(id, 1);
+        w.ndatwd = n;
+        jcc(1) = w.JCOL(w.jc1), jcc(2) = w.JCOL(w.jc2);
+        for (int i = 1; i <= n; ++i) {
+            const int code = 10 * (1 + (i - 1) / 4), d = (i - 1) % 2, r = ((i - 1) / 2) % 2;
+            w.IWD1(i, IWD_SIZE) = code, w.IWD1(i, IWD_DC) = d, w.IWD1(i, IWD_RB) = r;
+            w.RWD1(i, w.JCOL(w.jdepth)) = 100.f + float(i);
+            w.RWD1(i, w.JCOL(w.jazcmax)) = 65.f;
+            // C1 saturated from row 17 on but for the NaN of the last row;
+            // C2 where DC passes, NaN where neither passes.
+            w.RWD1(i, jcc(1)) = i == n ? NaN : 20.f + float(i);
+            w.RWD1(i, jcc(2)) = d == 1 ? 37.f : (r == 0 ? NaN : 30.f);
+        }
+        wellpara.ztop = 101.f;
+        wellpara.zbot = 100.f + float(n);
+        clear();
+    }
+    void TearDown() override {
+        iocom.lplotopen = false;
+        WellDialogue::TearDown();
+    }
+    // The messages and retained counts of the blocks drawn, in order.
+    counts_t draw(int icmd, bool lrb = true) {
+        clear();
+        log_azcm_tst_plot(IWD_WORK, IWD_SIZE, IWD_DC, IWD_RB, 1, n, n, jcc, lrb, icmd);
+        counts_t c;
+        for (std::size_t k = 1; k + 3 < screen().size(); ++k)
+            if (screen()[k - 1] == DASH && screen()[k + 1].starts_with(" Number of   tested"))
+                c.emplace_back(screen()[k].substr(1), std::stoi(screen()[k + 2].substr(27)));
+        return c;
+    }
+};
+
+TEST_F(ShapePages, EachPageCountsItsTestsAndThePairsAddUpToTheSelection) {
+    const std::map<int, counts_t> pages = {
+        {321, {{"ASE global test 3 failed: DC & CSize & RB", 41}, {"Cmin><G:", 32},
+               {"RB Negative test", 22}, {"|DC| Negative test", 22}}},
+        {322, {{"ASE global test 3 OK: DC & CSize & RB", 3}, {"Cmin = G:", 12},
+               {"RB Positive test", 22}, {"|DC| Positive test", 22}}},
+        {323, {{"ADE global test 3 failed: DC & CSize & RB", 41}, {"R+x,G+x,S+S:", 32},
+               {"RB Negative test", 22}, {"|DC| Negative test", 22}}},
+        {324, {{"ADE global test 3 OK: DC & CSize & RB", 3}, {"E+E or E+S or S+E:", 12},
+               {"RB Positive test", 22}, {"|DC| Positive test", 22}}},
+        {325, {{"ARK < 0 test R+R,R+G,G+x,E+x,S+x:", 36},
+               {"ARK < 0 test (Csize or RBCmax) non ARK", 40}, {"RB Positive test", 22}}},
+        {326, {{"ARK possible R+E or R+S:", 8},
+               {"ARK test OK (R+E or R+S) & RBCmax up/down:", 4}, {"RB Negative test", 22}}},
+        {332, {{"ASE partial test 2 OK: DC & CSize", 6},
+               {"ASE global test 3 OK: DC & CSize & RB", 3}, {"|DC| Positive test", 22}}},
+        {334, {{"ADE partial test 2 OK: DC & CSize", 6},
+               {"ADE global test 3 OK: DC & CSize & RB", 3}, {"|DC| Positive test", 22}}},
+        {351, {{"S1&2 : C1 & C2 saturated:", 4}, {"S1 : C1 saturated:", 27},
+               {"S2 : C2 saturated:", 22}, {"Smax : Cmax saturated:", 16},
+               {"Smin : Cmin saturated:", 8}, {"U1&2 : C1 & C2 unsaturated:", 24},
+               {"U1or2 : C1 or C2 unsaturated:", 40}}},
+        {354, {{"RB Negative test", 22}, {"RB Positive test", 22}}},
+        {365, {{"Cmin-BS  Positive test", 28}}},
+        {366, {{"Cmin-BS Negative test", 16}}},
+        {101, {}},
+        {356, {}},
+    };
+    for (const auto& [icmd, want] : pages) EXPECT_EQ(draw(icmd), want) << icmd;
+    // Each "< 0" page shows what its "> 0" page leaves out, block by block.
+    for (int icmd : {321, 323, 325})
+        for (std::size_t b = 0; b < pages.at(icmd).size(); ++b)
+            EXPECT_EQ(pages.at(icmd)[b].second + pages.at(icmd + 1)[b].second, n) << icmd << b;
+    // The frame as the console shows it, and the work column left by the
+    // last rule of the page (366: Cmin below the gauge band fails TBS).
+    draw(321);
+    const int k = find(" Cmin><G:");
+    EXPECT_EQ(lines(k - 1, 5), (lines_t{DASH, " Cmin><G:", " Number of   tested data =      44",
+                                        " Number of retained data =      32", DASH}));
+    draw(366);
+    EXPECT_EQ(std::vector<int>(w.IWD1.col(IWD_WORK), w.IWD1.col(IWD_WORK) + 20),
+              (std::vector<int>{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 1, 1, 1}));
+    EXPECT_EQ(w.RWD1(1, JWORK11), 101.f);  // the depths of the 16 rows plotted
+    EXPECT_EQ(w.RWD1(16, JWORK11), 116.f);
+
+    // Without RB the tests that need it are silently left out.
+    EXPECT_EQ(draw(321, false), (counts_t{{"Cmin><G:", 32}, {"|DC| Negative test", 22}}));
+    EXPECT_EQ(draw(325, false), (counts_t{{"ARK < 0 test R+R,R+G,G+x,E+x,S+x:", 36}}));
+    EXPECT_EQ(draw(333, false), (counts_t{{"ASE partial test 2 OK: DC & CSize", 6},
+                                          {"|DC| Positive test", 22}}));
+    EXPECT_TRUE(con.keys.empty());
+}
+
+TEST_F(ShapePages, NineDcLevelsFromAQuarterToFourTimesCdiff) {
+    // The fifth level is cdiff but for rounding: 2.8999998 in 4-byte reals.
+    EXPECT_EQ(draw(350), (counts_t{{"|DC| >       0.725", 44}, {"|DC| >       1.025", 41}, {"|DC| >       1.450", 41}, {"|DC| >       2.051", 41}, {"|DC| >       2.900", 41}, {"|DC| >       4.101", 38}, {"|DC| >       5.800", 35}, {"|DC| >       8.202", 32}, {"|DC| >      11.600", 27}}));
+    // With cdiff 0 every level keeps every depth, NaN differences too.
+    wellpara.cdiff = 0.f;
+    for (const auto& [message, kept] : draw(350)) EXPECT_EQ(kept, 44) << message;
+    EXPECT_EQ(count(" |DC| >       0.000"), 9);
+}
+
+// The sample well through the log menu, as the user meets it.
+struct ShapeWell : WellDialogue {
+    void SetUp() override {
+        WellDialogue::SetUp();
+        iocom.lpause = false;
+        smaininfo2("tarnolix            ", "12.3", "2024-09-14");
+        trigoset();
+        plt1blk = plt1blk_t{};
+        splotattributes(5);
+        swellplot(5);
+        logplot2(5);
+    }
+    void TearDown() override {
+        iocom.lplotopen = false;
+        WellDialogue::TearDown();
+    }
+    void read(const std::string& file, const std::string& id, float zbot) {
+        type({"100", id, "99", "1000", sample(file), "99", "99", "1000", "99"});
+        run([] { readwell2(2); });
+        wellpara.ztop = 0.f;
+        wellpara.zbot = zbot;
+        clear();
+    }
+    // The depths of an extracted table: the first value of each line after
+    // the title and the names.
+    static lines_t depths(const std::string& name, const std::string& title) {
+        std::ifstream in(name);
+        lines_t v;
+        bool rows = false;
+        for (std::string l; std::getline(in, l);) {
+            if (rows && !l.starts_with(" '")) v.push_back(l.substr(0, 16));
+            rows = rows || l == " '" + title + "'";
+        }
+        return v;
+    }
+};
+
+TEST_F(ShapeWell, TheExtractedTablesHoldTheGlobalTestAndEveryPageRenders) {
+    read("well210.txt", "210", 4000.f);
+    type({"321", "0", "3", ""});
+    for (const char* icmd : {"322", "323", "324", "325", "326", "332", "334", "350", "351",
+                             "354", "365", "366"})
+        type({icmd, ""});
+    // 333 and 335: the page, the file name, then the writer's menu.
+    type({"333", "", "", "90", "335", "", "", "90", "20", "", "99"});
+    run([] { logplot2(0); });
+    EXPECT_EQ(count(" EXTRACTION CRITERIA"), 2);
+    // The breakouts of the sample well, samples 601-1200, 4201-4800, 6201-6800.
+    const welldat_t& w = welldat;
+    lines_t want;
+    for (int i = 1; i <= w.ndatwd; ++i)
+        if ((i > 600 && i <= 1200) || (i > 4200 && i <= 4800) || (i > 6200 && i <= 6800))
+            want.push_back(formatf("(1x,f15.4)", w.RWD1(i, 1)));
+    EXPECT_EQ(depths("well210.txt_extr_ase.txt", "well210.txt_extracted_ASE"), want);
+    // 335 came last, so the work column still holds its global test.
+    want.clear();
+    for (int i = 1; i <= w.ndatwd; ++i)
+        if (w.IWD1(i, IWD_WORK) == 1) want.push_back(formatf("(1x,f15.4)", w.RWD1(i, 1)));
+    EXPECT_EQ(want.size(), 399u);
+    EXPECT_EQ(depths("well210.txt_extr_ade.txt", "well210.txt_extracted_ADE"), want);
+    EXPECT_GS_RENDERS("log.ps");
+}
+
+TEST_F(ShapeWell, WithoutRbNoTableIsWritten) {
+    read("well110.txt", "110", 3000.f);
+    type({"333", "0", "3", "", "20", "", "99"});
+    run([] { logplot2(0); });
+    EXPECT_GT(find(" ASE partial test 2 OK: DC & CSize"), 0);
+    EXPECT_EQ(find(" EXTRACTION CRITERIA"), -1);
+    EXPECT_FALSE(std::filesystem::exists("well110.txt_extr_ase.txt"));
+}
+
+}  // namespace
