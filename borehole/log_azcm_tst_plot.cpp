@@ -4,18 +4,19 @@
 // runs for the commands of its row, and a test fills the work column of
 // IWD1 before its block plots it.
 #include <cmath>
+#include <iterator>
+#include <span>
 #include <string>
 
 #include "borehole/derived.h"
 #include "borehole/shaperules.h"
 #include "borehole/tracks.h"
-#include "borehole/wellplot.h"
 #include "plot/symbols.h"
 #include "shell/format.h"
 #include "shell/frames.h"
 #include "shell/sio.h"
-#include "shell/textconv.h"
 #include "shell/runinfo.h"
+#include "shell/textconv.h"
 #include "shell/textlen.h"
 #include "shell/units.h"
 #include "tables/writetable.h"
@@ -25,27 +26,27 @@
 namespace {
 
 constexpr version_block VB_TST{"log_azcm_tst_plot   ", " 4.3", "2019-02-26"};
-constexpr int DEPTHAXIS = 1;
-constexpr int TESTAXIS = 3;   // AzCmax on the test pages
-constexpr int LEVELAXIS = 14; // AzCmax on the |DC| and saturation pages
 
 // Which IWD1 column a block plots by.
 enum class keycol { work, rb, dc, size };
 
 struct testblock {
-    int cmds[6];  // its commands, 0 padded
+    trackplace at[4];  // its commands and their places, unused entries zero
     bool hasrule;
     shaperule rule;
     keycol key;
     int kept;
     bool needsrb;
     std::string_view label;  // the DC blocks add cdiff to it
-    int subplot, frame;
-    int oddcmds[2];  // commands that place it elsewhere
-    int oddsubplot, oddframe;
     std::string_view message;
     std::string_view shape;  // "ASE" or "ADE": the block whose rows are extracted
     int writecmd;            // by this command
+
+    std::span<const trackplace> places() const {
+        std::size_t n = 0;
+        while (n < std::size(at) && at[n].subplot != 0) ++n;
+        return {at, n};
+    }
 };
 
 constexpr bool R = true, NR = false;
@@ -55,56 +56,49 @@ using enum keycol;
 // Rows 1 to 18 in routine order; the nine levels of 350 come after them,
 // then rows 20 to 28.
 constexpr testblock BLOCKS_BEFORE[] = {
-    {{332, 333}, R, TASE2, work, 1, NR, "ASE DC&C OK", 5, 4, {}, 0, 0,
+    {{{332, 333, 5, 4}}, R, TASE2, work, 1, NR, "ASE DC&C OK",
      "ASE partial test 2 OK: DC & CSize", {}, 0},
-    {{322, 332, 333}, R, TASE3, work, 1, R, "ASE DC&C&RB OK", 6, 2, {322}, 8, 2,
+    {{{322, 322, 8, 2}, {332, 333, 6, 2}}, R, TASE3, work, 1, R, "ASE DC&C&RB OK",
      "ASE global test 3 OK: DC & CSize & RB", "ASE", 333},
-    {{321}, R, TASE3, work, 0, R, "ASE tst KO", 8, 2, {}, 0, 0,
+    {{{321, 321, 8, 2}}, R, TASE3, work, 0, R, "ASE tst KO",
      "ASE global test 3 failed: DC & CSize & RB", {}, 0},
-    {{322}, R, TG, work, 1, NR, "Cmin=G", 4, 4, {}, 0, 0, "Cmin = G:", {}, 0},
-    {{321}, R, TG, work, 0, NR, "Cmin><G", 4, 4, {}, 0, 0, "Cmin><G:", {}, 0},
-    {{334, 335}, R, TADE2, work, 1, NR, "ADE DC&C OK", 5, 4, {}, 0, 0,
+    {{{322, 322, 4, 4}}, R, TG, work, 1, NR, "Cmin=G", "Cmin = G:", {}, 0},
+    {{{321, 321, 4, 4}}, R, TG, work, 0, NR, "Cmin><G", "Cmin><G:", {}, 0},
+    {{{334, 335, 5, 4}}, R, TADE2, work, 1, NR, "ADE DC&C OK",
      "ADE partial test 2 OK: DC & CSize", {}, 0},
-    {{324, 334, 335}, R, TADE3, work, 1, R, "ADE DC&C&RB OK", 6, 2, {324}, 8, 2,
+    {{{324, 324, 8, 2}, {334, 335, 6, 2}}, R, TADE3, work, 1, R, "ADE DC&C&RB OK",
      "ADE global test 3 OK: DC & CSize & RB", "ADE", 335},
-    {{323}, R, TADE3, work, 0, R, "ADE tst KO", 8, 2, {}, 0, 0,
+    {{{323, 323, 8, 2}}, R, TADE3, work, 0, R, "ADE tst KO",
      "ADE global test 3 failed: DC & CSize & RB", {}, 0},
-    {{324}, R, TE, work, 1, NR, "E+E,E+S,S+E", 4, 4, {}, 0, 0, "E+E or E+S or S+E:", {}, 0},
-    {{323}, R, TE, work, 0, NR, "R+x,G+x,S+S", 4, 4, {}, 0, 0, "R+x,G+x,S+S:", {}, 0},
-    {{326}, R, TK, work, 1, NR, "R+E,R+S", 4, 4, {}, 0, 0, "ARK possible R+E or R+S:", {}, 0},
-    {{325}, R, TK, work, 0, NR, "C ARK<0", 4, 4, {}, 0, 0,
-     "ARK < 0 test R+R,R+G,G+x,E+x,S+x:", {}, 0},
-    {{326}, R, TARK3, work, 1, R, "ARK C&RB OK", 7, 2, {}, 0, 0,
+    {{{324, 324, 4, 4}}, R, TE, work, 1, NR, "E+E,E+S,S+E", "E+E or E+S or S+E:", {}, 0},
+    {{{323, 323, 4, 4}}, R, TE, work, 0, NR, "R+x,G+x,S+S", "R+x,G+x,S+S:", {}, 0},
+    {{{326, 326, 4, 4}}, R, TK, work, 1, NR, "R+E,R+S", "ARK possible R+E or R+S:", {}, 0},
+    {{{325, 325, 4, 4}}, R, TK, work, 0, NR, "C ARK<0", "ARK < 0 test R+R,R+G,G+x,E+x,S+x:",
+     {}, 0},
+    {{{326, 326, 7, 2}}, R, TARK3, work, 1, R, "ARK C&RB OK",
      "ARK test OK (R+E or R+S) & RBCmax up/down:", {}, 0},
-    {{325}, R, TARK3, work, 0, R, "ARK C&RB KO", 7, 2, {}, 0, 0,
+    {{{325, 325, 7, 2}}, R, TARK3, work, 0, R, "ARK C&RB KO",
      "ARK < 0 test (Csize or RBCmax) non ARK", {}, 0},
-    {{321, 323, 326, 354}, NR, TG, rb, 0, R, "RBtest<0", 6, 4, {354}, 6, 2, "RB Negative test",
-     {}, 0},
-    {{322, 324, 325, 354}, NR, TG, rb, 1, R, "RBtest>0", 6, 4, {354}, 5, 4, "RB Positive test",
-     {}, 0},
-    {{321, 323}, NR, TG, dc, 0, NR, "DC<", 5, 4, {}, 0, 0, "|DC| Negative test", {}, 0},
-    {{322, 324, 332, 333, 334, 335}, NR, TG, dc, 1, NR, "DC>", 4, 4, {322, 324}, 5, 4,
+    {{{321, 321, 6, 4}, {323, 323, 6, 4}, {326, 326, 6, 4}, {354, 354, 6, 2}}, NR, TG, rb, 0, R,
+     "RBtest<0", "RB Negative test", {}, 0},
+    {{{322, 322, 6, 4}, {324, 325, 6, 4}, {354, 354, 5, 4}}, NR, TG, rb, 1, R, "RBtest>0",
+     "RB Positive test", {}, 0},
+    {{{321, 321, 5, 4}, {323, 323, 5, 4}}, NR, TG, dc, 0, NR, "DC<", "|DC| Negative test", {}, 0},
+    {{{322, 322, 5, 4}, {324, 324, 5, 4}, {332, 335, 4, 4}}, NR, TG, dc, 1, NR, "DC>",
      "|DC| Positive test", {}, 0},
 };
 constexpr testblock BLOCKS_AFTER[] = {
-    {{351}, NR, TG, size, CS_SS, NR, "S1&2", 10, 4, {}, 0, 0, "S1&2 : C1 & C2 saturated:", {}, 0},
-    {{351}, R, TS1, work, 1, NR, "S1", 13, 4, {}, 0, 0, "S1 : C1 saturated:", {}, 0},
-    {{351}, R, TS2, work, 1, NR, "S2", 14, 4, {}, 0, 0, "S2 : C2 saturated:", {}, 0},
-    {{351}, R, TSMAX, work, 1, NR, "Smax", 11, 4, {}, 0, 0, "Smax : Cmax saturated:", {}, 0},
-    {{351}, R, TSMIN, work, 1, NR, "Smin", 12, 4, {}, 0, 0, "Smin : Cmin saturated:", {}, 0},
-    {{351}, R, TU12, work, 1, NR, "U1&2", 16, 2, {}, 0, 0, "U1&2 : C1 & C2 unsaturated:", {}, 0},
-    {{351}, R, TU1O2, work, 1, NR, "U1or2", 15, 4, {}, 0, 0, "U1or2 : C1 or C2 unsaturated:",
-     {}, 0},
-    {{366}, R, TBS, work, 0, NR, "Cmin < BS+T", 5, 2, {}, 0, 0, "Cmin-BS Negative test", {}, 0},
-    {{365}, R, TBS, work, 1, NR, "Cmin > BS+T", 5, 4, {}, 0, 0, "Cmin-BS  Positive test", {}, 0},
+    {{{351, 351, 10, 4}}, NR, TG, size, CS_SS, NR, "S1&2", "S1&2 : C1 & C2 saturated:", {}, 0},
+    {{{351, 351, 13, 4}}, R, TS1, work, 1, NR, "S1", "S1 : C1 saturated:", {}, 0},
+    {{{351, 351, 14, 4}}, R, TS2, work, 1, NR, "S2", "S2 : C2 saturated:", {}, 0},
+    {{{351, 351, 11, 4}}, R, TSMAX, work, 1, NR, "Smax", "Smax : Cmax saturated:", {}, 0},
+    {{{351, 351, 12, 4}}, R, TSMIN, work, 1, NR, "Smin", "Smin : Cmin saturated:", {}, 0},
+    {{{351, 351, 16, 2}}, R, TU12, work, 1, NR, "U1&2", "U1&2 : C1 & C2 unsaturated:", {}, 0},
+    {{{351, 351, 15, 4}}, R, TU1O2, work, 1, NR, "U1or2", "U1or2 : C1 or C2 unsaturated:", {},
+     0},
+    {{{366, 366, 5, 2}}, R, TBS, work, 0, NR, "Cmin < BS+T", "Cmin-BS Negative test", {}, 0},
+    {{{365, 365, 5, 4}}, R, TBS, work, 1, NR, "Cmin > BS+T", "Cmin-BS  Positive test", {}, 0},
 };
-
-template <std::size_t N>
-bool listed(const int (&cmds)[N], int icmd) {
-    for (int c : cmds)
-        if (c != 0 && c == icmd) return true;
-    return false;
-}
 
 // "DC>" and a threshold with one decimal.
 std::string dclabel(std::string_view prefix, float t) {
@@ -137,8 +131,8 @@ void fillrule(const tstcontext& t, shaperule rule) {
     const int* c = w.IWD1.col(t.icsize) + i0;
     const int* d = w.IWD1.col(t.icdc) + i0;
     const int* r = w.IWD1.col(t.icrb) + i0;
-    const float* c1 = w.RWD1.col(t.jcc(1)) + i0;
-    const float* c2 = w.RWD1.col(t.jcc(2)) + i0;
+    const float* c1 = trackcolumn(t.jcc(1), t.itop);
+    const float* c2 = trackcolumn(t.jcc(2), t.itop);
     int* out = w.IWD1.col(t.icwork) + i0;
     for (int i = 0; i < t.nsel; ++i)
         out[i] = shapepass(rule, shaperow{c[i], d[i], r[i], c1[i], c2[i]}, p.c1sat, p.c2sat);
@@ -149,17 +143,17 @@ void fillrule(const tstcontext& t, shaperule rule) {
 void plotkept(const tstcontext& t, int subplot, int iaxis, int frame, std::string_view label,
               int keycolumn, int kept) {
     welldat_t& w = welldat;
-    slogbox(subplot, iaxis, DEPTHAXIS, frame, label);
-    const int i0 = t.itop - 1;
-    float* x = w.RWD1.col(JWORK10) + i0;
-    float* y = w.RWD1.col(JWORK11) + i0;
+    slogbox(subplot, iaxis, AXDEPTH, frame, label);
+    float* x = trackcolumn(JWORK10, t.itop);
+    float* y = trackcolumn(JWORK11, t.itop);
     int count = 0;
-    extractxy(x, y, count, w.RWD1.col(w.JCOL(w.jazcmax)) + i0, w.RWD1.col(w.JCOL(w.jdepth)) + i0,
-              w.IWD1.col(keycolumn) + i0, t.nsel, kept);
+    extractxy(x, y, count, trackcolumn(w.JCOL(w.jazcmax), t.itop),
+              trackcolumn(w.JCOL(w.jdepth), t.itop), w.IWD1.col(keycolumn) + (t.itop - 1),
+              t.nsel, kept);
     const int out = iocom.isout;
     writef(out, "(1x,a,1x,i6,1x,a)", "Number of   tested data = ", t.nsel);
     writef(out, "(1x,a,1x,i6,1x,a)", "Number of retained data = ", count);
-    writef(out, "(5(1x,a))", DASHED);
+    textline(DASHED);
     if (count >= 1) ussymbol(x, y, count);
 }
 
@@ -179,17 +173,15 @@ void extractedtable(const tstcontext& t, std::string_view shape, std::string_vie
 }
 
 void runblock(const tstcontext& t, const testblock& b, int icmd, bool lrb) {
-    if (!listed(b.cmds, icmd) || (b.needsrb && !lrb)) return;
+    const trackplace* at = trackplaceof(b.places(), icmd);
+    if (!at || (b.needsrb && !lrb)) return;
     if (b.hasrule) fillrule(t, b.rule);
-    const bool odd = listed(b.oddcmds, icmd);
-    const int subplot = odd ? b.oddsubplot : b.subplot;
-    const int frame = odd ? b.oddframe : b.frame;
-    const int iaxis = icmd == 350 || icmd == 351 ? LEVELAXIS : TESTAXIS;
+    const int iaxis = icmd == 350 || icmd == 351 ? AXAZCMAXCAT : AXAZCMAXTEST;
     const std::string label =
         b.key == dc ? dclabel(b.label, wellpara.cdiff) : std::string(b.label);
-    writef(iocom.isout, "(5(1x,a))", DASHED);
-    writef(iocom.isout, "(5(1x,a))", b.message);
-    plotkept(t, subplot, iaxis, frame, label, t.column(b.key), b.kept);
+    textline(DASHED);
+    textline(b.message);
+    plotkept(t, at->subplot, iaxis, at->frame, label, t.column(b.key), b.kept);
     if (icmd == b.writecmd) extractedtable(t, b.shape, b.shape == "ASE" ? "ase" : "ade");
 }
 
@@ -201,15 +193,14 @@ void dclevels(const tstcontext& t) {
     DCT0(1) = 0.25f * wellpara.cdiff;
     const float root2 = std::sqrt(2.0f);
     for (int k = 2; k <= 9; ++k) DCT0(k) = root2 * DCT0(k - 1);
-    const int i0 = t.itop - 1;
-    const float* c1 = w.RWD1.col(t.jcc(1)) + i0;
-    const float* c2 = w.RWD1.col(t.jcc(2)) + i0;
-    int* out = w.IWD1.col(t.icwork) + i0;
+    const float* c1 = trackcolumn(t.jcc(1), t.itop);
+    const float* c2 = trackcolumn(t.jcc(2), t.itop);
+    int* out = w.IWD1.col(t.icwork) + (t.itop - 1);
     for (int k = 1; k <= 9; ++k) {
         for (int i = 0; i < t.nsel; ++i) out[i] = DCT0(k) > std::fabs(c1[i] - c2[i]) ? 0 : 1;
-        writef(iocom.isout, "(5(1x,a))", DASHED);
+        textline(DASHED);
         writef(iocom.isout, "(2(1x,a,1x,f10.3))", "|DC| > ", DCT0(k));
-        plotkept(t, 10 + k, LEVELAXIS, k == 9 ? 2 : 4, dclabel("DC>", DCT0(k)), t.icwork, 1);
+        plotkept(t, 10 + k, AXAZCMAXCAT, k == 9 ? 2 : 4, dclabel("DC>", DCT0(k)), t.icwork, 1);
     }
 }
 
