@@ -11,7 +11,7 @@
 #include "shell/format.h"
 #include "shell/frames.h"
 #include "shell/intera.h"
-#include "shell/prompts.h"
+#include "shell/menus.h"
 #include "shell/runinfo.h"
 #include "shell/sio.h"
 #include "shell/textlen.h"
@@ -90,15 +90,13 @@ struct job {
     bool terminal() const { return unit == iocom.isout; }
 };
 
-void number(std::string_view text, int v) { writef(iocom.isout, "(1x,a,1x,i6)", text, v); }
-
 void resetframe(const version_block& vb, std::string_view what, std::string_view name, int value,
                 std::string_view range, int to) {
     errorhead(vb);
     textline(what);
-    number(name, value);
+    intline(name, value);
     textline(range);
-    number("==> RESET TO", to);
+    intline("==> RESET TO", to);
     errortail00();
 }
 
@@ -136,42 +134,32 @@ bool setupmenu(job& j) {
     for (;;) {
         submenuhead(k.vb);
         if (j.ex) {
-            textline(DASHED);
-            textline("EXTRACTION CRITERIA");
-            textline(DASHED);
-            number("1st   line:", j.ex->first);
-            number("last  line:", j.ex->last);
-            number("total line:", j.ex->ntotal);
-            number("test value:", j.ex->itest);
+            menublock("EXTRACTION CRITERIA");
+            intline("1st   line:", j.ex->first);
+            intline("last  line:", j.ex->last);
+            intline("total line:", j.ex->ntotal);
+            intline("test value:", j.ex->itest);
         }
-        textline(DASHED);
-        textline("CURRENT FILE MANAGEMENT");
-        textline(DASHED);
-        number("index:", j.ioca);
-        number("unit :", j.unit);
+        menublock("CURRENT FILE MANAGEMENT");
+        intline("index:", j.ioca);
+        intline("unit :", j.unit);
         textline("name :", trimmed(j.fout.sv()));
-        textline(DASHED);
-        textline("CURRENT FORMAT");
-        textline(DASHED);
+        menublock("CURRENT FORMAT");
         textline("name :", FORMATS[j.ifmt - 1]);
-        number("index:", j.ifmt);
+        intline("index:", j.ifmt);
         textline("---------------------");
         textline("modify format:");
         choicerows(FORMATS, 10, k.formathead);
-        textline(DASHED);
-        textline("CURRENT HEADER");
-        textline(DASHED);
+        menublock("CURRENT HEADER");
         textline("name :", k.headers[std::size_t(j.ihd - 1)]);
-        number("index:", j.ihd);
+        intline("index:", j.ihd);
         textline("---------------------");
         textline("modify header:");
         choicerows(k.headers, 20, k.headerhead);
-        textline(DASHED);
+        menurule();
         textline(k.okline);
         textline(k.exitline);
-        menutail();
-        int choice = 90, ierr = 0;
-        inintegdef(choice, "your choice", 90, ierr);
+        const int choice = menuchoice(90);
         if (choice == 90) return true;
         if (choice == 99) return false;
         if (choice == 11 || choice == 12) j.ifmt = choice - 10;
