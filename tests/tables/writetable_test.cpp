@@ -6,7 +6,6 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -20,6 +19,14 @@ namespace {
 using lines_t = std::vector<std::string>;
 const std::string DASH = " -------------------------------------------";
 
+lines_t file(const std::string& name) {
+    std::ifstream in(name);
+    lines_t v;
+    for (std::string l; std::getline(in, l);) v.push_back(l);
+    return v;
+}
+
+// Three variables on the columns 3, 1, 2 of six rows.
 struct Writer : WellDialogue {
     farr2<float, 6, 3> data;
     farr<fstr<16>, 3> names;
@@ -31,12 +38,11 @@ struct Writer : WellDialogue {
         WellDialogue::SetUp();
         iocom.lpause = false;
         smaininfo2("tarnolix            ", "12.3", "2024-09-14");
-        const float rows[6][3] = {{100.f, 25.5f, 24.f},    {100.5f, -3.25f, 1234.5678f},
-                                  {101.f, 0.f, 7.f},       {101.5f, 1.f, 2.f},
-                                  {102.f, 30.f, 20.00004f}, {102.5f, 9.f, 9.f}};
+        const float c[3][6] = {{100.f, 100.5f, 101.f, 101.5f, 102.f, 102.5f},
+                               {25.5f, -3.25f, 0.f, 1.f, 30.f, 9.f},
+                               {24.f, 1234.5678f, 7.f, 2.f, 20.f, 9.f}};
         for (int i = 1; i <= 6; ++i)
-            for (int j = 1; j <= 3; ++j) data(i, j) = rows[i - 1][j - 1];
-        // Variables in another order than the columns.
+            for (int j = 1; j <= 3; ++j) data(i, j) = c[j - 1][i - 1];
         names(1) = "C2", names(2) = "Depth", names(3) = "C1";
         jcol(1) = 3, jcol(2) = 1, jcol(3) = 2;
     }
@@ -49,21 +55,13 @@ struct Writer : WellDialogue {
                      first, last, key.data(), 1, data.a, 6, 3, 5, names, jcol.data(), 3, 3,
                      intera);
     }
-    static lines_t file(const std::string& name) {
-        std::ifstream in(name);
-        lines_t v;
-        for (std::string l; std::getline(in, l);) v.push_back(l);
-        return v;
-    }
 };
 
-TEST_F(Writer, BadCodesAreResetThenTheMenuSetsFormatAndHeader) {
+TEST_F(Writer, BadCodesAreResetTheMenuSetsFormatAndHeaderAndAClosedFileSendsBack) {
     ifmt = 0, ihd = 5, ioca = 7;
     type({"12", "22", "13", "99"});
     run([&] { write(55, 0); });
-    EXPECT_EQ(ifmt, 2);
-    EXPECT_EQ(ihd, 2);
-    EXPECT_EQ(ioca, 1);
+    EXPECT_EQ((std::vector<int>{ifmt, ihd, ioca}), (std::vector<int>{2, 2, 1}));
     // The header code is shown under the format's name.
     const std::string head = error_head_lines("  writereal  ")[3];
     lines_t frames;
@@ -76,11 +74,10 @@ TEST_F(Writer, BadCodesAreResetThenTheMenuSetsFormatAndHeader) {
     const int m = find(" CURRENT FILE MANAGEMENT");
     EXPECT_EQ(lines(m - 3, 32),
               (lines_t{" @ subroutine writereal             v5.0 2024-06-07",
-                       " @=================================================",
-                       DASH, " CURRENT FILE MANAGEMENT", DASH,
-                       " index:      1", " unit :     55", " name : out.txt", DASH,
-                       " CURRENT FORMAT", DASH, " name : f15.4,tab", " index:      1",
-                       " ---------------------", " modify format:",
+                       " @=================================================", DASH,
+                       " CURRENT FILE MANAGEMENT", DASH, " index:      1", " unit :     55",
+                       " name : out.txt", DASH, " CURRENT FORMAT", DASH, " name : f15.4,tab",
+                       " index:      1", " ---------------------", " modify format:",
                        " Format......................Command",
                        " f15.4,tab........................11",
                        " f15.4,space......................12", DASH, " CURRENT HEADER", DASH,
@@ -91,52 +88,37 @@ TEST_F(Writer, BadCodesAreResetThenTheMenuSetsFormatAndHeader) {
                        " Full: Prog + data info + Std.....22", DASH,
                        " SET UP IS OK, WRITE & EXIT ......90",
                        " EXIT WITHOUT WRITING ............99", " " + std::string(50, '@')}));
-    // 12, 22 and 13 each bring the menu back.
-    EXPECT_EQ(count(" name : f15.4,space"), 3);
-    EXPECT_EQ(count(" CURRENT HEADER"), 4);
-    EXPECT_FALSE(std::filesystem::exists("out.txt"));
-}
+    EXPECT_EQ(count(" CURRENT HEADER"), 4);  // 12, 22 and 13 each show it again
 
-TEST_F(Writer, AFileThatMustBeOpenButIsNotSendsBackToTheMenuOrGivesUp) {
+    // A file that must be open and isn't: back to the menu, or without a
+    // menu nothing written.
+    clear();
     ioca = 0;
     type({"", "99"});
     run([&] { write(55, 0); });
     const int k = find(" is not already opened");
-    ASSERT_GT(k, 0);
     EXPECT_EQ(lines(k - 3, 6),
               (lines_t{" output file status:", " file name: out.txt", " unit     :     55",
                        " is not already opened", " ==> it must be opened before writing",
                        " ==> back to menu in interactive mode"}));
     EXPECT_EQ(count(" CURRENT FILE MANAGEMENT"), 2);
-    clear();
     ioca = 3;
     write(55, 1);
-    EXPECT_EQ(count(" is not already opened"), 1);
     EXPECT_EQ(count(" WRITING COMPLETED"), 0);
     EXPECT_FALSE(std::filesystem::exists("out.txt"));
 }
 
-TEST_F(Writer, OnTheTerminalBothFormatsAndTheReport) {
+TEST_F(Writer, OnTheTerminalNothingIsClosed) {
     ifmt = 2;
     write(iocom.isout, 1, 2);
-    ifmt = 1;
-    write(iocom.isout, 1, 2);
     const int k = find(" ==> output to terminal");
-    EXPECT_EQ(lines(k + 2, 12),
-              (lines_t{" 'Three columns'",
-                       " C2              Depth           C1             ",
+    EXPECT_EQ(lines(k + 2, 4),
+              (lines_t{" 'Three columns'", " C2              Depth           C1             ",
                        "         24.0000        100.0000         25.5000",
-                       "       1234.5677        100.5000         -3.2500",
-                       " " + std::string(50, '@'),
-                       " @ subroutine writereal             v5.0 2024-06-07",
-                       " @=================================================",
-                       " WRITING COMPLETED", " OUTPUT FILE: out.txt",
-                       " NUMBER OF SAVED COLUMNS =    3", " NUMBER OF SAVED LINES   =    2",
-                       " OUTPUT FILE out.txt REMAINS OPEN"}));
-    const int t = find(" ==> output to terminal", k + 1);
-    EXPECT_EQ(lines(t + 3, 2),
-              (lines_t{" 'C2              '\t'Depth           '\t'C1              '\t'",
-                       "         24.0000\t       100.0000\t        25.5000\t"}));
+                       "       1234.5677        100.5000         -3.2500"}));
+    EXPECT_EQ(lines(k + 11, 3), (lines_t{" NUMBER OF SAVED COLUMNS =    3",
+                                         " NUMBER OF SAVED LINES   =    2",
+                                         " OUTPUT FILE out.txt REMAINS OPEN"}));
 }
 
 TEST_F(Writer, AWellTableWrittenWithTheStandardHeaderReadsBackTheSame) {
@@ -144,28 +126,27 @@ TEST_F(Writer, AWellTableWrittenWithTheStandardHeaderReadsBackTheSame) {
         type({"100", "210", "99", "1000", name, "99", "99", "1000", "99"});
         run([] { readwell2(2); });
     };
-    read(sample("well210.txt"));
-    welldat_t& w = welldat;
-    ASSERT_EQ(w.ndatwd, 8000);
-    const std::vector<float> before(w.RWD1.a, w.RWD1.a + MAXDATWD * 8);
     auto write_well = [&](const char* name) {
+        welldat_t& w = welldat;
         fout = name;
         writereal6(ifmt, ihd, ioca, 55, fout, w.finwd.sv(), w.titlewd.sv(), "WELL",
                    w.TYPWDNAM(w.itypwd).sv(), current_id(), w.RWD1.a, MAXDATWD, MAXCOLWD,
                    w.ndatwd, w.NAMVAR, w.JCOL.data(), MAXVARWD, w.nvarwd, 1);
     };
+    read(sample("well210.txt"));
+    const std::vector<float> before(welldat.RWD1.a, welldat.RWD1.a + MAXDATWD * 8);
     write_well("copy.txt");
     EXPECT_FALSE(unit_is_open(55));
     // The names line ends in the quote that the format writes after the
     // last tab; the reader passes over it.
     const lines_t copy = file("copy.txt");
     EXPECT_EQ(copy[1], file("well210.txt")[1] + "'");
-    w.RWD1.fill(0.f);
+    welldat.RWD1.fill(0.f);
     read("copy.txt");
-    ASSERT_EQ(w.ndatwd, 8000);
+    ASSERT_EQ(welldat.ndatwd, 8000);
     float worst = 0.f;
     for (std::size_t k = 0; k < before.size(); ++k)
-        worst = std::max(worst, std::fabs(w.RWD1.a[k] - before[k]));
+        worst = std::max(worst, std::fabs(welldat.RWD1.a[k] - before[k]));
     EXPECT_LT(worst, 1.5e-4f);  // four decimals, and the spacing of 4-byte reals at 3000
     write_well("again.txt");
     EXPECT_EQ(file("again.txt"), copy);
@@ -174,13 +155,10 @@ TEST_F(Writer, AWellTableWrittenWithTheStandardHeaderReadsBackTheSame) {
 TEST_F(Writer, AnExtractionKeepsThePassingRowsOfTheSearchedInterval) {
     ihd = 3;
     extract({1, 0, 1, 1, 0, 1}, 2, 5);
-    EXPECT_EQ(file("out.txt"),
-              (lines_t{DASH, " TEST DATA", " type name       : Depth,C1,C2",
-                       " type id         :      7", " input file name : in.txt",
-                       " output file name: out.txt", " title           : Extract",
-                       " nb of variables :      3", " nb of data      :      5", DASH,
-                       " EXTRACTION PARAMETERS", DASH,
-                       " Test value               =      1",
+    const lines_t f = file("out.txt");
+    ASSERT_EQ(f.size(), 23u);
+    EXPECT_EQ(lines_t(f.begin() + 10, f.end()),
+              (lines_t{" EXTRACTION PARAMETERS", DASH, " Test value               =      1",
                        " 1st  searched line       =      2",
                        " last searched line       =      5",
                        " Total number of data     =      5",
@@ -208,24 +186,17 @@ TEST_F(Writer, AnExtractionFileIsNeverOverwrittenAndIsAppendedTo) {
     fout = "ase.txt";
     EXPECT_THROW(write(55, 1), program_stop);
     EXPECT_EQ(file("ase.txt"), lines_t{"kept"});
-    clear();
     type({"", "ase2.txt"});
     run([&] { beginexfile(55, fout, "ASE output"); });
     EXPECT_EQ(count(" ===> RETRYING"), 1);
-    EXPECT_EQ(fout.trimmed(), "ase2.txt");
-    // Already open: said so, and a second head follows the first.
-    beginexfile(55, fout, "ASE output");
+    beginexfile(55, fout, "ASE output");  // open already: said so, a second head
     EXPECT_EQ(count(" is already opened"), 1);
     ihd = 2, ioca = 3;
     type({"90"});
     run([&] { extract({1, 1, 1, 1, 1, 1}, 1, 1, 0); });
-    const int m = find(" EXTRACTION CRITERIA");
-    EXPECT_EQ(lines(m - 3, 10),
-              (lines_t{" @ subroutine writextreal1          v3.0 2024-06-07",
-                       " @=================================================", DASH,
-                       " EXTRACTION CRITERIA", DASH, " 1st   line:      1", " last  line:      1",
-                       " total line:      5", " test value:      1", DASH}));
-    EXPECT_GT(find(" Prog +Data +Extraction +Std header.....22"), m);
+    EXPECT_EQ(lines(find(" EXTRACTION CRITERIA") + 2, 4),
+              (lines_t{" 1st   line:      1", " last  line:      1", " total line:      5",
+                       " test value:      1"}));
     EXPECT_FALSE(unit_is_open(55));
     const lines_t f = file("ase2.txt");
     const lines_t head = {DASH, " ASE output", DASH, " BOREHOLE GEOMETRY PARAMETERS", DASH,
