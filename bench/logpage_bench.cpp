@@ -14,6 +14,7 @@
 #include "plot/attributes.h"
 #include "plot/pages.h"
 #include "shell/console.h"
+#include "shell/main_program.h"
 #include "shell/runinfo.h"
 #include "shell/sio.h"
 #include "shell/units.h"
@@ -62,17 +63,14 @@ void load_well() {
 void BM_LogPage320(benchmark::State& state) {
     scripted_console con;
     console_scope scope(con);
-    initsio2(5);
+    tarnolix_startup(false);
     iocom.lpause = false;
     runinfo3com.levelrt = 1;
     runinfo3com.ROUTNAME(1) = "tarnolix";
-    trigoset();
-    splotattributes(5);
     con.keys = {""};  // default page format
     fstr<40> name = "/dev/null";
     plinit(name, 5);
-    swellplot(5);
-    logplot2(5);
+    swellplot(5);  // opening from the defaults cleared the log layouts
     load_well();
     for (auto _ : state) {
         con.keys = {"320", "", "99"};  // the page, a new page on the open file, leave

@@ -27,11 +27,6 @@ struct LogMenu : WellDialogue {
         use_fake_platform();
         smaininfo2("tarnolix            ", "12.3", "2024-09-14");
         iocom.lpause = false;
-        trigoset();
-        plt1blk = plt1blk_t{};
-        splotattributes(5);
-        swellplot(5);
-        logplot2(5);
         clear();
     }
     void TearDown() override {

@@ -31,13 +31,10 @@ struct Tracks : WellDialogue {
     void SetUp() override {
         WellDialogue::SetUp();
         iocom.lpause = false;
-        trigoset();
-        plt1blk = plt1blk_t{};
-        splotattributes(5);
         type({""});
         fstr<40> name = "tracks.ps";
         plinit(name, 5);
-        swellplot(5);
+        swellplot(5);  // opening from the defaults cleared the log layouts
         clear();
     }
     void TearDown() override {

@@ -13,7 +13,7 @@
 
 namespace {
 
-using lines = std::vector<std::string>;
+using lines_t = std::vector<std::string>;
 const std::string DASH = " -------------------------------------------";
 
 // A subplot's box on the paper, cm.
@@ -34,8 +34,8 @@ box boxof(int n) {
     } while (0)
 
 // The strings drawn, as they stand in the plot file.
-lines strings(const lines& file) {
-    lines v;
+lines_t strings(const lines_t& file) {
+    lines_t v;
     for (const auto& l : file) {
         if (l.empty() || l.front() != '(') continue;
         const auto e = l.rfind(')');
@@ -151,7 +151,7 @@ TEST_F(layout, SlogboxScalesTheBoxToItsSetsAndFramesItByCode) {
         SCOPED_TRACE("frame " + std::to_string(w.frame));
         skip_lines();
         slogbox(3, 4, 1, w.frame, "C1,C2 (cm)");
-        const lines s = strings(new_lines());
+        const lines_t s = strings(new_lines());
         EXPECT_EQ(axisblk7a.IBBORDER(1), w.left);
         EXPECT_EQ(axisblk7a.IBBORDER(2), w.right);
         EXPECT_EQ(count(s, "Depth (m)"), w.depth);
@@ -181,7 +181,7 @@ TEST_F(layout, TwelveAndEightBoxPagesRender) {
     const int sub[] = {29, 30, 31, 37, 35, 36}, set[] = {4, 6, 13, 14, 14, 14}, fr[] = {1, 4, 4, 4, 4, 2};
     for (int k = 0; k < 6; ++k) slogbox(sub[k], set[k], 1, fr[k], labels[k]);
     close_plot();
-    const lines s = strings(read_lines("pages.ps"));
+    const lines_t s = strings(read_lines("pages.ps"));
     EXPECT_EQ(count(s, "Depth (m)"), 4);
     EXPECT_EQ(count(s, "R+R"), 20);
     EXPECT_GS_RENDERS("pages.ps");
@@ -191,11 +191,11 @@ TEST_F(layout, MenuShowsTheLayoutsAndTurnsThePage) {
     con.screen.clear();
     type_keys({"50", "11", "0", "50", "99"});
     swellplot(2);
-    const lines& sc = con.screen;
+    const lines_t& sc = con.screen;
     const int m = find(" MULTIPLE PLOTS LAYOUT");
     ASSERT_GE(m, 0);
-    EXPECT_EQ(lines(sc.begin() + m, sc.begin() + m + 7),
-              (lines{" MULTIPLE PLOTS LAYOUT", " modify scaling ............10",
+    EXPECT_EQ(lines_t(sc.begin() + m, sc.begin() + m + 7),
+              (lines_t{" MULTIPLE PLOTS LAYOUT", " modify scaling ............10",
                      " Landscape(T)/Portrait(F)...11 T", " modify plot attributes ....15",
                      " modify axes params ........20", " show subplot layout .......50",
                      " EXIT ......................99"}));

@@ -10,15 +10,15 @@
 
 namespace {
 
-using lines = std::vector<std::string>;
+using lines_t = std::vector<std::string>;
 
 class attributes : public plot_session {
 protected:
     // The n screen lines from the first equal to s on.
-    lines block(const std::string& s, int n) const {
+    lines_t block(const std::string& s, int n) const {
         auto it = std::find(con.screen.begin(), con.screen.end(), s);
         if (con.screen.end() - it < n) return {};
-        return lines(it, it + n);
+        return lines_t(it, it + n);
     }
     void keys(std::initializer_list<const char*> ks) {
         for (const char* k : ks) con.type(k);
@@ -62,7 +62,7 @@ TEST_F(attributes, ValuesOutOfRangeAreResetWithAFrame) {
     slinecolor(c, 1);  // wraps round the table
     EXPECT_EQ(c, 1);
     EXPECT_EQ(block(" trying to set color nb =     19", 3),
-              (lines{" trying to set color nb =     19", " when max color nb      =     18",
+              (lines_t{" trying to set color nb =     19", " when max color nb      =     18",
                      " ===> RESET color nb    =      1"}));
     c = 21;
     sfillcolor(c, 1);
@@ -76,7 +76,7 @@ TEST_F(attributes, ValuesOutOfRangeAreResetWithAFrame) {
     float w = 2000.0f;
     slinewidth(w, 1);
     EXPECT_EQ(block(" LINE THICKNESS OUT OF RANGE:", 5),
-              (lines{" LINE THICKNESS OUT OF RANGE:", "  line thickness (cm) =    2000.    ", "  min =   0.1000E-01",
+              (lines_t{" LINE THICKNESS OUT OF RANGE:", "  line thickness (cm) =    2000.    ", "  min =   0.1000E-01",
                      "  max =    1000.    ", " ==> RESET line thickness =   0.2000E-01"}));
     // The check refuses the very value the prompt would accept.
     for (float v : {0.01f, 0.011f}) {
@@ -125,7 +125,7 @@ TEST_F(attributes, DeviceAttributesReachAnOpenFileOnly) {
     stextfont(f, 1);
     float x = 100, y = 700;
     detext2(x, y, "Courier-Bold 1 cm");
-    EXPECT_EQ(new_lines(), (lines{"5.67 setlinewidth", "100.00 700.00 moveto",
+    EXPECT_EQ(new_lines(), (lines_t{"5.67 setlinewidth", "100.00 700.00 moveto",
                                   "28 /Courier-Bold findfont exch scalefont setfont", "(Courier-Bold 1 cm) show"}));
     // Angle, justification and colours have no state in the file.
     float a = 45;
@@ -136,7 +136,7 @@ TEST_F(attributes, DeviceAttributesReachAnOpenFileOnly) {
     EXPECT_TRUE(new_lines().empty());
     // Propagation of what is stored.
     splotattributes(7);
-    EXPECT_EQ(new_lines(), lines{"5.67 setlinewidth"});
+    EXPECT_EQ(new_lines(), lines_t{"5.67 setlinewidth"});
     close_plot();
     EXPECT_GS_RENDERS("att.ps");
 
@@ -160,7 +160,7 @@ TEST_F(attributes, NumberOfColours) {
     int n = 3;
     scolornb(n, 1);
     EXPECT_EQ(block(" The nb of colors has been reduced", 2),
-              (lines{" The nb of colors has been reduced", " ==> checking current set up versus new max"}));
+              (lines_t{" The nb of colors has been reduced", " ==> checking current set up versus new max"}));
     expect_screen({" trying to set color nb =      5", " trying to set color nb =      8", " ==> checking done"});
     EXPECT_EQ(plt2blk.ilinecol, 5);
     EXPECT_EQ(plt2blk.ifillcol, 8);
@@ -197,8 +197,8 @@ TEST_F(attributes, ColourTableIsReadFromAFile) {
     keys({"300", "colours.txt", "99"});
     scolortable(0);
     EXPECT_EQ(plt2blk.ncolors, 3);
-    EXPECT_EQ((lines{name_of(0), name_of(1), name_of(2), name_of(3)}),
-              (lines{"Paper   ", "Ink     ", "Chartreu", "Blue    "}));
+    EXPECT_EQ((lines_t{name_of(0), name_of(1), name_of(2), name_of(3)}),
+              (lines_t{"Paper   ", "Ink     ", "Chartreu", "Blue    "}));
     EXPECT_EQ(rgb(2), (std::vector<float>{10, 20, 30}));
     expect_screen({" Input file colours.txt is closed", " Actually read   :   3 DATA"});
     EXPECT_FALSE(unit_is_open(UNIT_COLOURS));
@@ -208,7 +208,7 @@ TEST_F(attributes, ColourTableIsReadFromAFile) {
     keys({"300", "short.txt", "99"});
     scolortable(0);
     EXPECT_EQ(block(" END OF FILE REACHED UNEXPECTEDLY", 3),
-              (lines{" END OF FILE REACHED UNEXPECTEDLY", " WHILE READING LINE NUMBER       4",
+              (lines_t{" END OF FILE REACHED UNEXPECTEDLY", " WHILE READING LINE NUMBER       4",
                      " Input file short.txt is closed"}));
     EXPECT_EQ(plt2blk.ncolors, 4);
     EXPECT_EQ(name_of(1), "Ink     ");

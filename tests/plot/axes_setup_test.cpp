@@ -10,7 +10,7 @@
 
 namespace {
 
-using lines = std::vector<std::string>;
+using lines_t = std::vector<std::string>;
 
 const std::string RULE43 = " " + std::string(43, '-');
 const std::string RULE35 = " " + std::string(35, '-');
@@ -42,11 +42,11 @@ protected:
             if (con.screen[std::size_t(k)] == s) return k;
         return -1;
     }
-    // n screen lines from the first one equal to s.
-    lines from(const std::string& s, int n) const {
+    // n screen lines_t from the first one equal to s.
+    lines_t from(const std::string& s, int n) const {
         const int k = at(s);
         if (k < 0 || k + n > int(con.screen.size())) return {};
-        return lines(con.screen.begin() + k, con.screen.begin() + k + n);
+        return lines_t(con.screen.begin() + k, con.screen.begin() + k + n);
     }
 };
 
@@ -82,7 +82,7 @@ TEST_F(axis_setup, BoundsAndRefusedAxisNumbers) {
     EXPECT_EQ(u1, 0.0f);
     EXPECT_EQ(u2, 10.0f);
     EXPECT_EQ(from(" trying to get bounds of axis nb =     16", 3),
-              (lines{" trying to get bounds of axis nb =     16", " max axis nb =     15", " ===> RETURNING [0, 10]"}));
+              (lines_t{" trying to get bounds of axis nb =     16", " max axis nb =     15", " ===> RETURNING [0, 10]"}));
     EXPECT_TRUE(screen_has(error_name("  g1axbd     ")));
 
     a.wau1 = 99;
@@ -122,8 +122,8 @@ TEST_F(axis_setup, AxisMenusShowTheirPanelsAndStoreTheAnswers) {
     axis_args a;
     a.set(3, 2);
     EXPECT_EQ(con.screen[1], HEAD_S1AXIS1);
-    EXPECT_EQ(lines(con.screen.begin() + 3, con.screen.begin() + 21),
-              (lines{" Sizes:", " max nb of axis    =     15", " axis label length =     30",
+    EXPECT_EQ(lines_t(con.screen.begin() + 3, con.screen.begin() + 21),
+              (lines_t{" Sizes:", " max nb of axis    =     15", " axis label length =     30",
                      " SETTING UP AXIS #      3", " user space:", " initial value ....................1   0.0000    ",
                      " final   value ....................2   10.000    ", " annotation:",
                      " initial value ...................20   0.0000    ",
@@ -149,15 +149,15 @@ TEST_F(axis_setup, AxisMenusShowTheirPanelsAndStoreTheAnswers) {
     EXPECT_GT(at(" EXIT.............................99", at(" => RESET increment =   4.0000    ")), 0);
 
     // The link menu; a zero scale given there is reset at the next pass.
-    // With the link 1 the user lines of s1axis1 give way to one line.
+    // With the link 1 the user lines_t of s1axis1 give way to one line.
     con.screen.clear();
     int link = 0;
     float scale = 0;
     press({"20", "0", "10", "1", "99", "1", "99"});
     s1axuswdtyp(link, scale, 3, 2);
     a.set(3, 2);
-    EXPECT_EQ(lines(con.screen.begin() + 6, con.screen.begin() + 9),
-              (lines{" user space and annotations independent", " user space versus annotations ...10      0",
+    EXPECT_EQ(lines_t(con.screen.begin() + 6, con.screen.begin() + 9),
+              (lines_t{" user space and annotations independent", " user space versus annotations ...10      0",
                      " annotations/user scaling  .......20   1.0000    "}));
     EXPECT_EQ(count(con.screen, " ==> RESET SCALING =   1.0000    "), 1);
     EXPECT_TRUE(screen_has(" user space = annotation"));
@@ -171,7 +171,7 @@ TEST_F(axis_setup, AxisListMenuGoesToOneAxisOrThroughAll) {
     a.set(2, 1);
     press({"2", "99", "99"});
     snaxis(0);
-    EXPECT_EQ(from(" AXIS SET UP", 6), (lines{" AXIS SET UP", RULE43, " axis label                  axis nb", RULE35,
+    EXPECT_EQ(from(" AXIS SET UP", 6), (lines_t{" AXIS SET UP", RULE43, " axis label                  axis nb", RULE35,
                                              " Generic 0-10 axis    ............ 1",
                                              " Azimuth [90] degrees ............ 2"}));
     EXPECT_TRUE(screen_has(" SETTING UP AXIS #      2"));
@@ -196,13 +196,13 @@ TEST_F(axis_setup, BoxDefaultsRefusalsResetsAndMenu) {
     b.ix = 9;
     b.set(2, 1);
     EXPECT_EQ(from(" trying to set box nb =      2", 3),
-              (lines{" trying to set box nb =      2", " max box nb =      1", " ===> NO ACTION"}));
+              (lines_t{" trying to set box nb =      2", " max box nb =      1", " ===> NO ACTION"}));
 
     box_args c{0, 16, 1, 0, 1, 1, 0, 1, fstr<25>("log plot")};
     c.set(1, 1);
     EXPECT_EQ(c.ix * 10 + c.iy, 12);
     EXPECT_EQ(from(" trying to set axis nb =     16", 3),
-              (lines{" trying to set axis nb =     16", " max axis nb =     15", " ==> RESET axis nb =      2"}));
+              (lines_t{" trying to set axis nb =     16", " max axis nb =     15", " ==> RESET axis nb =      2"}));
     box_args d;
     d.set(1, 3);
     EXPECT_EQ(d.left * 1000 + d.right * 100 + d.zero * 10 + d.clip, 1010);
@@ -212,8 +212,8 @@ TEST_F(axis_setup, BoxDefaultsRefusalsResetsAndMenu) {
     press({"10", "4", "33", "0", "3", "40", "1", "50", "0", "60", "Depth track", "21", "99", "99"});
     d.set(1, 2);
     EXPECT_TRUE(con.keys.empty());
-    EXPECT_EQ(lines(con.screen.begin() + 3, con.screen.begin() + 7),
-              (lines{" SETTING BOX #      1", RULE43, " X axis label: Generic 0-10 axis             ",
+    EXPECT_EQ(lines_t(con.screen.begin() + 3, con.screen.begin() + 7),
+              (lines_t{" SETTING BOX #      1", RULE43, " X axis label: Generic 0-10 axis             ",
                      " X axis nb........................10      1"}));
     for (const char* l : {" Box label   : log plot                 ", " X=0 & Y=0 mark line .............50      1",
                           " outside [1,5]", " SETTING UP AXIS #      2"})  // 0 isn't offered
@@ -228,7 +228,7 @@ TEST_F(axis_setup, CurvePointCountIsKeptInsideTheBuffer) {
     scptnp(np, 1);
     EXPECT_EQ(ptblock.npcurve, 1000);
     EXPECT_EQ(from(" nb of points =   2000", 4),
-              (lines{" nb of points =   2000", " > curve buffer size =   1000", " ===> reset nb of points =   1000",
+              (lines_t{" nb of points =   2000", " > curve buffer size =   1000", " ===> reset nb of points =   1000",
                      " ===> WILL NOT PLOT ALL THE DATA"}));
     con.screen.clear();
     np = 90;
@@ -236,7 +236,7 @@ TEST_F(axis_setup, CurvePointCountIsKeptInsideTheBuffer) {
     scptnp(np, 0);
     EXPECT_TRUE(con.keys.empty());
     EXPECT_EQ(from(" max nb of points ................   1000", 3),
-              (lines{" max nb of points ................   1000", " nb of points ..................10     90",
+              (lines_t{" max nb of points ................   1000", " nb of points ..................10     90",
                      " nb of segments ..................     89"}));
     EXPECT_EQ(ptblock.npcurve, 45);
 }

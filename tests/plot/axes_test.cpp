@@ -14,44 +14,44 @@
 
 namespace {
 
-using lines = std::vector<std::string>;
+using lines_t = std::vector<std::string>;
 
-lines operator+(lines a, const lines& b) {
+lines_t operator+(lines_t a, const lines_t& b) {
     a.insert(a.end(), b.begin(), b.end());
     return a;
 }
-lines seg(const std::string& from, const std::string& to) {
+lines_t seg(const std::string& from, const std::string& to) {
     return {"newpath", from + " moveto", to + " lineto", "stroke"};
 }
 // A string shifted along its baseline: m = 2 centred, 3 right-aligned.
-lines shifted(const std::string& at, const std::string& size, const std::string& text, int m) {
+lines_t shifted(const std::string& at, const std::string& size, const std::string& text, int m) {
     return {at + " moveto", size + " /Helvetica findfont exch scalefont setfont", "(" + text + ")",
             "dup stringwidth pop " + std::to_string(m - 4) + " div 0 rmoveto", "show"};
 }
 // The strings of a stretch of plot file, in order.
-lines strings(const lines& file) {
-    lines v;
+lines_t strings(const lines_t& file) {
+    lines_t v;
     for (const auto& l : file)
         if (l.size() >= 2 && l.front() == '(') v.push_back(l.substr(0, l.find(')') + 1));
     return v;
 }
-int index_of(const lines& v, const std::string& s) {
+int index_of(const lines_t& v, const std::string& s) {
     auto it = std::find(v.begin(), v.end(), s);
     return it == v.end() ? -1 : int(it - v.begin());
 }
-bool has_seg(const lines& v, const std::string& from, const std::string& to) {
-    const lines s = seg(from, to);
+bool has_seg(const lines_t& v, const std::string& from, const std::string& to) {
+    const lines_t s = seg(from, to);
     return std::search(v.begin(), v.end(), s.begin(), s.end()) != v.end();
 }
-long paths(const lines& v) { return std::count(v.begin(), v.end(), "newpath"); }
+long paths(const lines_t& v) { return std::count(v.begin(), v.end(), "newpath"); }
 
 // A horizontal axis at y = 2 cm from x = 2 to 12 cm, tics below.
-const lines AXIS_LINE = seg("56.70 56.70", "340.20 56.70");
-lines tic(const std::string& x) { return seg(x + " 56.70", x + " 45.36"); }
-lines sub(const std::string& x) { return seg(x + " 56.70", x + " 51.03"); }
-lines number(const std::string& x, const std::string& t) { return shifted(x + " 17.01", "22", t, 2); }
-const lines LABEL = shifted("198.45 -17.01", "28", "Test axis", 2);
-const lines TEN_TICS = AXIS_LINE + tic("56.70") + sub("85.05") + sub("113.40") + sub("141.75") +
+const lines_t AXIS_LINE = seg("56.70 56.70", "340.20 56.70");
+lines_t tic(const std::string& x) { return seg(x + " 56.70", x + " 45.36"); }
+lines_t sub(const std::string& x) { return seg(x + " 56.70", x + " 51.03"); }
+lines_t number(const std::string& x, const std::string& t) { return shifted(x + " 17.01", "22", t, 2); }
+const lines_t LABEL = shifted("198.45 -17.01", "28", "Test axis", 2);
+const lines_t TEN_TICS = AXIS_LINE + tic("56.70") + sub("85.05") + sub("113.40") + sub("141.75") +
                        sub("170.10") + tic("198.45") + sub("226.80") + sub("255.15") + sub("283.50") +
                        sub("311.85") + tic("340.20");
 
@@ -70,7 +70,7 @@ protected:
         open_plot(name);
         con.screen.clear();
     }
-    lines xaxis(float wau1, float wau2, float waud, int nasubint = 5, int nlabintk = 1, int nawdig = 0) {
+    lines_t xaxis(float wau1, float wau2, float waud, int nasubint = 5, int nlabintk = 1, int nawdig = 0) {
         skip_lines();
         cmaxis11(2.0f, 2.0f, 12.0f, 2.0f, -90.0f, nasubint, nlabintk, wau1, wau2, waud, nawdig, 1.0f, 2,
                  "Test axis");
@@ -93,11 +93,11 @@ TEST_F(axes, ZeroToTenAndZeroToTwelveByFive) {
     // at the end of the line, and no tic there.
     skip_lines();
     cmaxis11(2.0f, 2.0f, 14.0f, 2.0f, -90.0f, 5, 1, 0.0f, 12.0f, 5.0f, 0, 1.0f, 2, "Twelve");
-    lines l = new_lines();
-    lines head = seg("56.70 56.70", "396.90 56.70") + lines(TEN_TICS.begin() + 4, TEN_TICS.end()) +
+    lines_t l = new_lines();
+    lines_t head = seg("56.70 56.70", "396.90 56.70") + lines_t(TEN_TICS.begin() + 4, TEN_TICS.end()) +
                  sub("368.55") + sub("396.90");
-    EXPECT_EQ(lines(l.begin(), l.begin() + std::ptrdiff_t(head.size())), head);
-    EXPECT_EQ(strings(l), (lines{"(0)", "(5)", "(10)", "(Twelve)"}));
+    EXPECT_EQ(lines_t(l.begin(), l.begin() + std::ptrdiff_t(head.size())), head);
+    EXPECT_EQ(strings(l), (lines_t{"(0)", "(5)", "(10)", "(Twelve)"}));
     EXPECT_GE(index_of(l, "226.80 -17.01 moveto"), 0);  // centred on the line
     close_plot();
     EXPECT_GS_RENDERS("ten.ps");
@@ -105,7 +105,7 @@ TEST_F(axes, ZeroToTenAndZeroToTwelveByFive) {
 
 TEST_F(axes, ReversedRangesWrongAndMissingIncrementsEqualBounds) {
     open("reversed.ps");
-    const lines down = TEN_TICS + number("56.70", "10") + number("198.45", "5") +
+    const lines_t down = TEN_TICS + number("56.70", "10") + number("198.45", "5") +
                        number("340.20", "0") + LABEL;
     EXPECT_EQ(xaxis(10, 0, -5), down);
     EXPECT_TRUE(con.screen.empty());
@@ -114,14 +114,14 @@ TEST_F(axes, ReversedRangesWrongAndMissingIncrementsEqualBounds) {
     const int k = index_of(con.screen, " Inconsistent annotation increment:");
     ASSERT_GE(k, 1);
     EXPECT_EQ(con.screen[std::size_t(k - 3)], " ///          subroutine   cmaxis11             ///");
-    EXPECT_EQ(lines(con.screen.begin() + k + 1, con.screen.begin() + k + 5),
-              (lines{" initial value      =   10.000    ", " final   value      =   0.0000    ",
+    EXPECT_EQ(lines_t(con.screen.begin() + k + 1, con.screen.begin() + k + 5),
+              (lines_t{" initial value      =   10.000    ", " final   value      =   0.0000    ",
                      " increment          =   5.0000    ", " => RESET increment =  -5.0000    "}));
 
     // No increment: one interval, numbers 0 and 8 only.
     con.screen.clear();
-    lines one = xaxis(0, 8, 0);
-    EXPECT_EQ(strings(one), (lines{"(0)", "(8)", "(Test axis)"}));
+    lines_t one = xaxis(0, 8, 0);
+    EXPECT_EQ(strings(one), (lines_t{"(0)", "(8)", "(Test axis)"}));
     EXPECT_TRUE(has_seg(one, "340.20 56.70", "340.20 45.36"));
     EXPECT_EQ(paths(one), 1 + 2 + 4);
     EXPECT_GE(index_of(con.screen, " => RESET increment =   8.0000    "), 0);
@@ -137,24 +137,24 @@ TEST_F(axes, ReversedRangesWrongAndMissingIncrementsEqualBounds) {
 
 TEST_F(axes, NumberSpacingDecimalsAndPlacementAlongTheTics) {
     open("numbers.ps");
-    lines two = xaxis(0, 20, 5, 5, 2);  // five tics, numbers on 1, 3, 5
-    EXPECT_EQ(strings(two), (lines{"(0)", "(10)", "(20)", "(Test axis)"}));
+    lines_t two = xaxis(0, 20, 5, 5, 2);  // five tics, numbers on 1, 3, 5
+    EXPECT_EQ(strings(two), (lines_t{"(0)", "(10)", "(20)", "(Test axis)"}));
     EXPECT_GE(index_of(two, "198.45 17.01 moveto"), 0);
     EXPECT_EQ(paths(two), 1 + 5 + 4 * 4);
     EXPECT_EQ(strings(xaxis(-1, 1, 0.5f, 1, 1, 1)),
-              (lines{"(-1.0)", "(-0.5)", "(0.0)", "(0.5)", "(1.0)", "(Test axis)"}));
-    EXPECT_EQ(strings(xaxis(0, 2, 0.5f, 1)), (lines{"(0)", "(0)", "(1)", "(1)", "(2)", "(Test axis)"}));
+              (lines_t{"(-1.0)", "(-0.5)", "(0.0)", "(0.5)", "(1.0)", "(Test axis)"}));
+    EXPECT_EQ(strings(xaxis(0, 2, 0.5f, 1)), (lines_t{"(0)", "(0)", "(1)", "(1)", "(2)", "(Test axis)"}));
 
     // Upward, tics left: numbers right-aligned at mid-height 0.6 cm left of
     // the line; the label reads upwards, 0.8 cm plus the estimated width of
     // "10" (0.8 x 2 x 0.6 cm) left of the line.
     skip_lines();
     cmaxis11(2.0f, 4.0f, 2.0f, 14.0f, 90.0f, 5, 1, 0.0f, 10.0f, 5.0f, 0, 1.0f, 1, "  Up axis ");
-    lines up = new_lines();
+    lines_t up = new_lines();
     EXPECT_TRUE(has_seg(up, "56.70 113.40", "45.36 113.40"));
-    const lines label{"6.80 255.15 moveto", "  90.00 rotate", "28 /Helvetica findfont exch scalefont setfont",
+    const lines_t label{"6.80 255.15 moveto", "  90.00 rotate", "28 /Helvetica findfont exch scalefont setfont",
                       "(Up axis)", "dup stringwidth pop -2 div 0 rmoveto", "show", " -90.00 rotate"};
-    EXPECT_EQ(lines(up.end() - 22, up.end()), shifted("39.69 102.06", "22", "0", 3) +
+    EXPECT_EQ(lines_t(up.end() - 22, up.end()), shifted("39.69 102.06", "22", "0", 3) +
                                                   shifted("39.69 243.81", "22", "5", 3) +
                                                   shifted("39.69 385.56", "22", "10", 3) + label);
     close_plot();
@@ -173,7 +173,7 @@ const box_case CASE1{-5, 5, -5, 5}, CASE2{5, -5, -5, 5}, CASE3{-5, 5, 5, -5}, CA
 class boxes : public axes {
 protected:
     // Types: top 0, bottom 1, left 1, right 0 unless given.
-    lines box(const box_case& c, int izero = 0, int top = 0, int bottom = 1, int left = 1, int right = 0,
+    lines_t box(const box_case& c, int izero = 0, int top = 0, int bottom = 1, int left = 1, int right = 0,
               float walas = 1.0f) {
         skip_lines();
         const float xd = c.xfirst < c.xlast ? 5.0f : -5.0f, yd = c.yfirst < c.ylast ? 5.0f : -5.0f;
@@ -188,29 +188,29 @@ protected:
 TEST_F(boxes, FourRangeCasesEdgeTypesByPlaceAndZeroLines) {
     open("cases.ps");
     for (const box_case& c : {CASE1, CASE2, CASE3, CASE4}) {
-        lines l = box(c, 1);
+        lines_t l = box(c, 1);
         const std::string name = std::to_string(c.xfirst) + "," + std::to_string(c.yfirst);
         // Labels under the bottom and left of the left edge; tics outward.
         EXPECT_GE(index_of(l, "283.50 68.04 moveto"), 0) << name;
         EXPECT_GE(index_of(l, "112.27 283.50 moveto"), 0) << name;
         EXPECT_TRUE(has_seg(l, "283.50 141.75", "283.50 130.41")) << name;
         EXPECT_TRUE(has_seg(l, "141.75 283.50", "130.41 283.50")) << name;
-        // Top and right are plain lines from first to last.
+        // Top and right are plain lines_t from first to last.
         const std::string x0 = c.xfirst < 0 ? "141.75" : "425.25", x1 = c.xfirst < 0 ? "425.25" : "141.75";
         const std::string y0 = c.yfirst < 0 ? "141.75" : "425.25", y1 = c.yfirst < 0 ? "425.25" : "141.75";
         EXPECT_TRUE(has_seg(l, x0 + " 425.25", x1 + " 425.25")) << name;
         EXPECT_TRUE(has_seg(l, "425.25 " + y0, "425.25 " + y1)) << name;
         EXPECT_EQ(strings(l).size(), 8u) << name;
-        // Zero lines where a range ascends across zero, last of all.
+        // Zero lines_t where a range ascends across zero, last of all.
         const bool zx = c.xfirst < 0, zy = c.yfirst < 0;
-        lines zeros = (zx ? seg("283.50 " + y0, "283.50 " + y1) : lines{}) +
-                      (zy ? seg(x0 + " 283.50", x1 + " 283.50") : lines{});
-        EXPECT_EQ(lines(l.end() - std::ptrdiff_t(zeros.size()), l.end()), zeros) << name;
+        lines_t zeros = (zx ? seg("283.50 " + y0, "283.50 " + y1) : lines_t{}) +
+                      (zy ? seg(x0 + " 283.50", x1 + " 283.50") : lines_t{});
+        EXPECT_EQ(lines_t(l.end() - std::ptrdiff_t(zeros.size()), l.end()), zeros) << name;
         EXPECT_EQ(paths(l), 2 + 2 * (1 + 3 + 8) + zx + zy) << name;
     }
     // In case 4 the first x number, 5, is at the right.
-    lines l = box(CASE4);
-    EXPECT_EQ(strings(l), (lines{"(5)", "(0)", "(-5)", "(Xlab)", "(5)", "(0)", "(-5)", "(Ylab)"}));
+    lines_t l = box(CASE4);
+    EXPECT_EQ(strings(l), (lines_t{"(5)", "(0)", "(-5)", "(Xlab)", "(5)", "(0)", "(-5)", "(Ylab)"}));
     EXPECT_EQ(l[std::size_t(index_of(l, "(5)") - 2)], "425.25 102.06 moveto");
     EXPECT_EQ(box({0, 5, 0, 5}, 1), box({0, 5, 0, 5}, 0));  // touching zero isn't crossing it
     close_plot();
@@ -234,10 +234,10 @@ TEST_F(boxes, MirroringMapAndDescendingDepthAxis) {
                "Depth (m)", 0, 1.0f, 5, 2, 0, top, bottom, 0, 0);
         return new_lines();
     };
-    lines t = depth_box(1, 0);
+    lines_t t = depth_box(1, 0);
     EXPECT_TRUE(has_seg(t, "141.75 425.25", "141.75 436.59"));
     EXPECT_TRUE(has_seg(t, "141.75 141.75", "425.25 141.75"));
-    lines b = depth_box(0, 1);
+    lines_t b = depth_box(0, 1);
     EXPECT_TRUE(has_seg(b, "141.75 141.75", "141.75 130.41"));
     EXPECT_TRUE(has_seg(b, "141.75 425.25", "425.25 425.25"));
     EXPECT_EQ(index_of(b, "(Depth (m))"), -1);
@@ -263,7 +263,7 @@ TEST_F(boxes, StoredBoxDrawsAsTheExplicitOneAndOnlyBoxOneExists) {
 
     skip_lines();
     d1bx2d(1);
-    lines stored = new_lines();
+    lines_t stored = new_lines();
     usbax6(-5.0f, 5.0f, -2.0f, 6.0f, -5.0f, 5.0f, 5.0f, fstr<30>("Stored x").sv(), 0, 1.0f, 5, 1, -2.0f,
            6.0f, 2.0f, fstr<30>("Stored y").sv(), 0, 1.0f, 2, 2, 1, 5, 1, 1, 0);
     EXPECT_EQ(stored, new_lines());

@@ -12,11 +12,11 @@
 
 namespace {
 
-using lines = std::vector<std::string>;
+using lines_t = std::vector<std::string>;
 
 void write_file(const std::string& name, const std::string& text) { std::ofstream(name) << text; }
 
-const lines HEAD{"%!", "% Initialize coordinate system and scales", "%%Pages: (atend)",
+const lines_t HEAD{"%!", "% Initialize coordinate system and scales", "%%Pages: (atend)",
                 "%%BoundingBox:    0    0  595  842", " 0.000  0.000  0.000 setrgbcolor", "% Ready to go",
                 "%%Page:    1    1"};
 
@@ -25,9 +25,9 @@ std::string numtext(float v) {
     return std::string(b, std::size_t(psnumtext(b, v)));
 }
 
-lines slice(const lines& v, std::size_t from, std::size_t n) {
+lines_t slice(const lines_t& v, std::size_t from, std::size_t n) {
     if (from > v.size()) return {};
-    return lines(v.begin() + std::ptrdiff_t(from), v.begin() + std::ptrdiff_t(std::min(v.size(), from + n)));
+    return lines_t(v.begin() + std::ptrdiff_t(from), v.begin() + std::ptrdiff_t(std::min(v.size(), from + n)));
 }
 
 class device : public plot_session {
@@ -49,10 +49,10 @@ protected:
 TEST_F(device, PortraitFileWithNoDrawingHoldsHeadOnePageAndTrailer) {
     open_format(1, "dev.ps");
     close_plot();
-    lines f = read_lines("dev.ps");
+    lines_t f = read_lines("dev.ps");
     ASSERT_GE(f.size(), 12u);
     EXPECT_EQ(slice(f, 0, 7), HEAD);
-    EXPECT_EQ(slice(f, f.size() - 5, 5), (lines{"showpage", "%%End Page", "%%Trailer", "%%Pages:   1", "%%EOF"}));
+    EXPECT_EQ(slice(f, f.size() - 5, 5), (lines_t{"showpage", "%%End Page", "%%Trailer", "%%Pages:   1", "%%EOF"}));
     EXPECT_EQ(count(f, "%%Page:    1    1"), 1);
     // Propagated attributes: line width 0.02 cm is 0.567 points.
     EXPECT_EQ(count(f, "0.57 setlinewidth"), 1);
@@ -65,7 +65,7 @@ TEST_F(device, OtherPageFormatsSetTheirBoxAndLandscapeRotates) {
     struct {
         int isize;
         const char* name;
-        lines head;  // lines 4 and 5
+        lines_t head;  // lines_t 4 and 5
     } cases[] = {
         {2, "usp.ps", {"%%BoundingBox:    0    0  612  792", " 0.000  0.000  0.000 setrgbcolor"}},
         {3, "a4l.ps", {"%%BoundingBox:    0    0  595  842", " 595    0 translate 90 rotate"}},
@@ -86,11 +86,11 @@ TEST_F(device, TwoPagesEachRenderAsAPicture) {
     intnewpage();
     deline(x, y, 2);
     close_plot();
-    lines f = read_lines("two.ps");
+    lines_t f = read_lines("two.ps");
     auto it = std::find(f.begin(), f.end(), "gsave showpage");
     ASSERT_NE(it, f.end());
-    EXPECT_EQ(lines(it, it + 4), (lines{"gsave showpage", "%%End Page", "grestore", "%%Page:   2   2"}));
-    EXPECT_EQ(slice(f, f.size() - 5, 5), (lines{"showpage", "%%End Page", "%%Trailer", "%%Pages:   2", "%%EOF"}));
+    EXPECT_EQ(lines_t(it, it + 4), (lines_t{"gsave showpage", "%%End Page", "grestore", "%%Page:   2   2"}));
+    EXPECT_EQ(slice(f, f.size() - 5, 5), (lines_t{"showpage", "%%End Page", "%%Trailer", "%%Pages:   2", "%%EOF"}));
     EXPECT_GS_RENDERS("two.ps");
     EXPECT_TRUE(std::ifstream("two.ps-1.png").good());
     EXPECT_TRUE(std::ifstream("two.ps-2.png").good());
@@ -100,14 +100,14 @@ TEST_F(device, DefaultsFileIsReadAndWhenBadRewritten) {
     // No file: Portrait A4, and the file is created.
     open_plot("a.ps");
     close_plot();
-    EXPECT_EQ(read_lines("quarp9_ini.txt"), (lines{"  1 'Portrait A4'", " "}));
+    EXPECT_EQ(read_lines("quarp9_ini.txt"), (lines_t{"  1 'Portrait A4'", " "}));
     EXPECT_TRUE(screen_has(" quarp9_ini.txt updated or created"));
     // A good file is read and left alone.
     write_file("quarp9_ini.txt", " 3 'my landscape'\n \n");
     con.screen.clear();
     open_plot("b.ps");
     close_plot();
-    EXPECT_EQ(read_lines("quarp9_ini.txt"), (lines{" 3 'my landscape'", " "}));
+    EXPECT_EQ(read_lines("quarp9_ini.txt"), (lines_t{" 3 'my landscape'", " "}));
     // The banner of each open shows the settings.
     auto it = std::find(con.screen.begin(), con.screen.end(), " @               Quartos PS Library               @");
     ASSERT_LT(it + 10, con.screen.end());
@@ -117,8 +117,8 @@ TEST_F(device, DefaultsFileIsReadAndWhenBadRewritten) {
     write_file("quarp9_ini.txt", " 9 'nine'\n \n");
     open_plot("c.ps");
     close_plot();
-    EXPECT_EQ(read_lines("quarp9_ini.txt"), (lines{"  1 'Portrait A4'", " "}));
-    EXPECT_EQ(slice(read_lines("c.ps"), 3, 1), lines{"%%BoundingBox:    0    0  595  842"});
+    EXPECT_EQ(read_lines("quarp9_ini.txt"), (lines_t{"  1 'Portrait A4'", " "}));
+    EXPECT_EQ(slice(read_lines("c.ps"), 3, 1), lines_t{"%%BoundingBox:    0    0  595  842"});
     for (const char* f : {"a.ps", "b.ps", "c.ps"}) EXPECT_GS_RENDERS(f);
 }
 
@@ -130,8 +130,8 @@ TEST_F(device, UserChangesThePageFormat) {
     plinit(name, 5);
     close_plot();
     EXPECT_TRUE(screen_has(" Landscape US Letter  .................. 4"));
-    EXPECT_EQ(read_lines("quarp9_ini.txt"), (lines{"  4 'Landscape US Letter'", " "}));
-    EXPECT_EQ(slice(read_lines("chg.ps"), 4, 1), lines{" 612    0 translate 90 rotate"});
+    EXPECT_EQ(read_lines("quarp9_ini.txt"), (lines_t{"  4 'Landscape US Letter'", " "}));
+    EXPECT_EQ(slice(read_lines("chg.ps"), 4, 1), lines_t{" 612    0 translate 90 rotate"});
     EXPECT_GS_RENDERS("chg.ps");
 }
 
@@ -143,17 +143,17 @@ TEST_F(device, PointsLinesAndPolygonsInColour) {
     // A lone point is a zero length line.
     float px[1] = {100.0f}, py[1] = {200.5f};
     deline(px, py, 1);
-    EXPECT_EQ(new_lines(), (lines{"newpath", "100.00 200.50 moveto", "100.00 200.50 lineto", "stroke"}));
+    EXPECT_EQ(new_lines(), (lines_t{"newpath", "100.00 200.50 moveto", "100.00 200.50 lineto", "stroke"}));
 
     // The fill colour is set inside gsave/grestore: the outline keeps black.
     float x[3] = {10, 100, 50}, y[3] = {10, 10, 80};
     depolygon(x, y, 3);
-    EXPECT_EQ(new_lines(), (lines{"newpath", "10.00 10.00 moveto", "100.00 10.00 lineto", "50.00 80.00 lineto",
+    EXPECT_EQ(new_lines(), (lines_t{"newpath", "10.00 10.00 moveto", "100.00 10.00 lineto", "50.00 80.00 lineto",
                                   "closepath gsave", " 0.800  0.800  0.800 setrgbcolor fill grestore", "stroke"}));
     int hollow = 0;
     sfillstyle(hollow, 1);
     depolygon(x, y, 3);
-    EXPECT_EQ(new_lines(), (lines{"newpath", "10.00 10.00 moveto", "100.00 10.00 lineto", "50.00 80.00 lineto",
+    EXPECT_EQ(new_lines(), (lines_t{"newpath", "10.00 10.00 moveto", "100.00 10.00 lineto", "50.00 80.00 lineto",
                                   "closepath", "stroke"}));
 
     // The line colour goes out before the stroke, and only when it changes.
@@ -161,7 +161,7 @@ TEST_F(device, PointsLinesAndPolygonsInColour) {
     slinecolor(red, 1);
     deline(x, y, 2);
     deline(x, y, 2);
-    EXPECT_EQ(new_lines(), (lines{"newpath", "10.00 10.00 moveto", "100.00 10.00 lineto",
+    EXPECT_EQ(new_lines(), (lines_t{"newpath", "10.00 10.00 moveto", "100.00 10.00 lineto",
                                   " 1.000  0.000  0.000 setrgbcolor", "stroke", "newpath", "10.00 10.00 moveto",
                                   "100.00 10.00 lineto", "stroke"}));
     close_plot();
@@ -183,7 +183,7 @@ TEST_F(device, BlackAndWhiteFileHasNoColourAtAll) {
     sfillcolor(blue, 1);
     float x[4] = {10, 100, 100, 10}, y[4] = {10, 10, 80, 80};
     depolygon(x, y, 4);
-    EXPECT_EQ(new_lines(), (lines{"newpath", "10.00 10.00 moveto", "100.00 10.00 lineto", "100.00 80.00 lineto",
+    EXPECT_EQ(new_lines(), (lines_t{"newpath", "10.00 10.00 moveto", "100.00 10.00 lineto", "100.00 80.00 lineto",
                                   "10.00 80.00 lineto", "closepath gsave", " 0.500 setgray fill grestore",
                                   "stroke"}));
     float tx = 50, ty = 50;
@@ -204,7 +204,7 @@ TEST_F(device, LongPolylineGoesOutInThreePaths) {
         y[i] = 5.0f + float(i % 2);
     }
     usline(x.data(), y.data(), 1200);
-    lines f = new_lines();
+    lines_t f = new_lines();
     std::vector<std::size_t> starts;
     for (std::size_t k = 0; k < f.size(); ++k)
         if (f[k] == "newpath") starts.push_back(k);
@@ -232,7 +232,7 @@ TEST_F(device, MovetoModesLineWidthAndLinetoWithoutMove) {
     float lx[2] = {1, 2}, ly[2] = {3, 4};
     pslineto(lx, ly, 2);  // no path open: warned, written all the same
     psstrokepath();
-    EXPECT_EQ(new_lines(), (lines{"1.50 -2.25 moveto", "newpath", "1.50 -2.25 moveto", "stroke",
+    EXPECT_EQ(new_lines(), (lines_t{"1.50 -2.25 moveto", "newpath", "1.50 -2.25 moveto", "stroke",
                                   "12.35 setlinewidth", "1.00 3.00 lineto", "2.00 4.00 lineto", "stroke"}));
     EXPECT_TRUE(screen_has(" Path begins with Draw instead of Move"));
     EXPECT_TRUE(screen_has(" ///          subroutine   pslineto             ///"));
@@ -255,7 +255,7 @@ TEST_F(device, CoordinatePastTheLimitIsResetWithAWarningEach) {
     pslineto(lx, ly, 1);
     EXPECT_EQ(ly[0], 9.9e7f);
     psstrokepath();
-    EXPECT_EQ(new_lines(), (lines{"newpath", " 99000000. -99000000. moveto", "5.00  99000000. lineto", "stroke"}));
+    EXPECT_EQ(new_lines(), (lines_t{"newpath", " 99000000. -99000000. moveto", "5.00  99000000. lineto", "stroke"}));
     EXPECT_EQ(count(con.screen, " ///                  WARNING                   ///"), 3);
     EXPECT_TRUE(screen_has(" x in meters =  0.353E+05 ==> reset to xmax =  0.349E+05"));
     EXPECT_TRUE(screen_has(" y in meters = -0.706E+05 ==> reset to ymin = -0.349E+05"));
@@ -276,7 +276,7 @@ TEST_F(device, RotatedCentredString) {
     float x = 300, y = 400;
     detext2(x, y, "Depth");
     // Half the 14.175 point height down the rotated text axis.
-    EXPECT_EQ(new_lines(), (lines{"303.54 393.86 moveto", "  30.00 rotate",
+    EXPECT_EQ(new_lines(), (lines_t{"303.54 393.86 moveto", "  30.00 rotate",
                                   "14 /Helvetica findfont exch scalefont setfont", "(Depth)",
                                   "dup stringwidth pop -2 div 0 rmoveto", "show", " -30.00 rotate"}));
     EXPECT_EQ(x, 300.0f);
@@ -299,7 +299,7 @@ TEST_F(device, JustificationTrimmingFontAndColourOfStrings) {
     stextcolor(red, 1);
     detext2(x, y, label);  // right and top: down by the full height
     EXPECT_EQ(new_lines(),
-              (lines{"100.00 100.00 moveto", "14 /Helvetica findfont exch scalefont setfont", "(Depth) show",
+              (lines_t{"100.00 100.00 moveto", "14 /Helvetica findfont exch scalefont setfont", "(Depth) show",
                      "100.00 100.00 moveto", "14 /Helvetica findfont exch scalefont setfont", "(  Depth   ) show",
                      "100.00 85.82 moveto", "14 /Times-Bold findfont exch scalefont setfont",
                      " 1.000  0.000  0.000 setrgbcolor", "(Depth)", "dup stringwidth pop -1 div 0 rmoveto", "show"}));

@@ -8,11 +8,11 @@
 
 namespace {
 
-using lines = std::vector<std::string>;
+using lines_t = std::vector<std::string>;
 
-// The moveto and lineto lines of each stroked path of a stretch of plot file.
-std::vector<lines> paths(const lines& file) {
-    std::vector<lines> v;
+// The moveto and lineto lines_t of each stroked path of a stretch of plot file.
+std::vector<lines_t> paths(const lines_t& file) {
+    std::vector<lines_t> v;
     bool open = false;
     for (const auto& l : file) {
         if (l == "newpath") v.emplace_back();
@@ -49,8 +49,8 @@ TEST_F(pages, OpeningWithDefaultsResetsEverySubplotAndClosingFinishesTheFile) {
     usline(x, y, 2);
     ustext2(1.0f, 2.0f, "Upoint");
     cmtext2(2.0f, 3.0f, "Cpoint");
-    lines body = new_lines();
-    EXPECT_EQ(paths(body)[0], (lines{"283.50 283.50 moveto", "311.85 283.50 lineto"}));
+    lines_t body = new_lines();
+    EXPECT_EQ(paths(body)[0], (lines_t{"283.50 283.50 moveto", "311.85 283.50 lineto"}));
     auto at = [&](std::string_view l) { return std::find(body.begin(), body.end(), l) - body.begin(); };
     EXPECT_LT(at("311.85 340.20 moveto"), at("(Upoint) show"));
     EXPECT_LT(at("(Upoint) show"), at("56.70 85.05 moveto"));
@@ -62,7 +62,7 @@ TEST_F(pages, OpeningWithDefaultsResetsEverySubplotAndClosingFinishesTheFile) {
     EXPECT_TRUE(screen_has(" ==> appending to current plot file/window"));
     close_plot();
     EXPECT_FALSE(std::ifstream("other.ps").good());
-    lines file = read_lines("open5.ps");
+    lines_t file = read_lines("open5.ps");
     EXPECT_EQ(count(file, "%!"), 1);
     EXPECT_EQ(file[file.size() - 2], "%%Pages:   1");
 
@@ -93,7 +93,7 @@ TEST_F(pages, PolylinesPast501PointsAreSlicedAndAnEmptyOneIsRefused) {
     p = paths(new_lines());
     ASSERT_EQ(p.size(), 2u);
     EXPECT_EQ(p[0][500], zig(501, "lineto"));
-    EXPECT_EQ(p[1], (lines{zig(501, "moveto"), zig(502, "lineto")}));
+    EXPECT_EQ(p[1], (lines_t{zig(501, "moveto"), zig(502, "lineto")}));
 
     usline(x.data(), y.data(), 0);
     EXPECT_TRUE(new_lines().empty());
@@ -108,8 +108,8 @@ TEST_F(pages, SubplotSelectionInforms) {
     int n = 12;
     ssubplot(n, 0);
     EXPECT_EQ(plt1blk.isubplot, 12);
-    EXPECT_EQ(lines(con.screen.end() - 8, con.screen.end()),
-              (lines{" CURRENT SUBPLOT:", " Subplot nb     :   1", " Subplot name   : Subplot_1           ",
+    EXPECT_EQ(lines_t(con.screen.end() - 8, con.screen.end()),
+              (lines_t{" CURRENT SUBPLOT:", " Subplot nb     :   1", " Subplot name   : Subplot_1           ",
                      " -------------------------------------------", " SWITCHING TO SUBPLOT:",
                      " Subplot nb     :  12", " Subplot name   : Subplot_12          ",
                      " @@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@"}));
@@ -155,7 +155,7 @@ TEST_F(pages, BoxMapTakesTheSmallerScaleForBothAxesAndKeepsEachSign) {
     sus2cm2(f[0], f[1], f[2], f[3], f[4], f[5], f[6], f[7], 2);
     auto setup = std::find(con.screen.begin(), con.screen.end(), "             Current set up:");
     ASSERT_LT(setup + 5, con.screen.end());
-    EXPECT_EQ(lines(setup + 2, setup + 6), (lines{" |xcm|   |  0.800   0.200|   |xu-100.000|   |  3.000|",
+    EXPECT_EQ(lines_t(setup + 2, setup + 6), (lines_t{" |xcm|   |  0.800   0.200|   |xu-100.000|   |  3.000|",
                                                    " |   | = |               | * |  | + |       |",
                                                    " |ycm|   |  0.000   0.800|   |yu--20.000|   |  4.000|",
                                                    " =========================================="}));
@@ -178,7 +178,7 @@ TEST_F(pages, MapsSetWhileClosedReachTheDeviceWhenAPlotOpensWithMode2) {
     sus2cm1(xcm0, ycm0, xx, xy, yx, yy, 0);
     auto setup = std::find(con.screen.begin(), con.screen.end(), "             Current set up:");
     ASSERT_LT(setup + 4, con.screen.end());
-    EXPECT_EQ(lines(setup + 2, setup + 5), (lines{" |xcm|   |  1.000   0.000|   |xu|   | 10.000|",
+    EXPECT_EQ(lines_t(setup + 2, setup + 5), (lines_t{" |xcm|   |  1.000   0.000|   |xu|   | 10.000|",
                                                    " |   | = |               | * |  | + |       |",
                                                    " |ycm|   |  0.000   1.000|   |yu|   | 10.000|"}));
     con.type("");  // page format: defaults
@@ -190,7 +190,7 @@ TEST_F(pages, MapsSetWhileClosedReachTheDeviceWhenAPlotOpensWithMode2) {
     skip_lines();
     float x[2] = {0, 1}, y[2] = {0, 2};
     usline(x, y, 2);
-    EXPECT_EQ(paths(new_lines())[0], (lines{"56.70 28.35 moveto", "113.40 56.70 lineto"}));
+    EXPECT_EQ(paths(new_lines())[0], (lines_t{"56.70 28.35 moveto", "113.40 56.70 lineto"}));
 
     farr<float, 2> v0;
     farr2<float, 2, 2> m;
@@ -209,14 +209,14 @@ TEST_F(pages, NewPageAddsAPageOrStartsANewFile) {
     newpage();
     con.type("2");  // the same page
     newpage();
-    lines body = new_lines();
+    lines_t body = new_lines();
     EXPECT_EQ(count(body, "gsave showpage"), 1);
     EXPECT_EQ(count(body, "%%Page:   2   2"), 1);
     for (const char* k : {"1", "", "", ""}) con.type(k);  // new file: close, defaults, name
     newpage();
     EXPECT_EQ(unit_name(UNIT_PLOT), "Next_plot");
     close_plot();
-    lines book = read_lines("book.ps");
+    lines_t book = read_lines("book.ps");
     EXPECT_EQ(book[book.size() - 2], "%%Pages:   2");
     EXPECT_GS_RENDERS("book.ps");
     EXPECT_GS_RENDERS("Next_plot");

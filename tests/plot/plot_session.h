@@ -1,7 +1,6 @@
-// Fixture for plot library tests: a scripted console, a directory of the
-// test's own (plot files and the page format file of tests running side by
-// side don't meet), records at their start-up values, and readers for the
-// plot file and the screen.
+// Fixture for plot library tests: the Dialogue fixture (a scripted console
+// in a directory of the test's own) with the plot library alone at its
+// start-up values, and readers for the plot file and the screen.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -14,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "dialogue.h"
 #include "math/angles.h"
 #include "plot/attributes.h"
 #include "plot/pages.h"
@@ -21,34 +21,22 @@
 #include "shell/sio.h"
 #include "shell/units.h"
 
-class plot_session : public ::testing::Test {
+class plot_session : public Dialogue {
 protected:
-    memory_console con;
-    std::unique_ptr<console_scope> scope;
-    std::filesystem::path home;
     std::size_t mark = 0;  // lines of the plot file already looked at
 
     void SetUp() override {
-        const auto* t = ::testing::UnitTest::GetInstance()->current_test_info();
-        std::filesystem::path dir = std::string("plot_") + t->test_suite_name() + "_" + t->name();
-        home = std::filesystem::current_path();
-        std::filesystem::remove_all(dir);
-        std::filesystem::create_directory(dir);
-        std::filesystem::current_path(dir);
-        scope = std::make_unique<console_scope>(con);
-        units_reset();
+        Dialogue::SetUp();
         initsio2(5);
         iocom.lpause = false;
         trigoset();
         plt1blk = plt1blk_t{};
         splotattributes(5);
-        con.screen.clear();
+        clear();
     }
     void TearDown() override {
-        units_reset();
         iocom.lplotopen = false;
-        scope.reset();
-        std::filesystem::current_path(home);
+        Dialogue::TearDown();
     }
 
     // Opens a plot from the defaults; the page format question takes its
@@ -83,6 +71,7 @@ protected:
     void skip_lines() { new_lines(); }
 
     bool screen_has(std::string_view line) const { return count(con.screen, line) > 0; }
+    using Dialogue::count;
     static int count(const std::vector<std::string>& v, std::string_view line) {
         return int(std::count(v.begin(), v.end(), line));
     }

@@ -11,31 +11,31 @@
 
 namespace {
 
-using lines = std::vector<std::string>;
+using lines_t = std::vector<std::string>;
 
-lines operator+(lines a, const lines& b) {
+lines_t operator+(lines_t a, const lines_t& b) {
     a.insert(a.end(), b.begin(), b.end());
     return a;
 }
 
 // One stroked path through the given points.
-lines path(std::initializer_list<std::string> pts, lines end = {"stroke"}) {
-    lines v{"newpath"};
+lines_t path(std::initializer_list<std::string> pts, lines_t end = {"stroke"}) {
+    lines_t v{"newpath"};
     v.insert(v.end(), pts.begin(), pts.end());
     return v + end;
 }
 
-const lines HBAR = path({"277.83 283.50 moveto", "289.17 283.50 lineto"});
-const lines VBAR = path({"283.50 277.83 moveto", "283.50 289.17 lineto"});
-const lines DOT = path({"283.50 283.50 moveto", "283.50 283.50 lineto"});
+const lines_t HBAR = path({"277.83 283.50 moveto", "289.17 283.50 lineto"});
+const lines_t VBAR = path({"283.50 277.83 moveto", "283.50 289.17 lineto"});
+const lines_t DOT = path({"283.50 283.50 moveto", "283.50 283.50 lineto"});
 const std::initializer_list<std::string> DIAMOND = {"283.50 289.17 moveto", "277.83 283.50 lineto",
                                                      "283.50 277.83 lineto", "289.17 283.50 lineto",
                                                      "283.50 289.17 lineto"};
 
 class symbols : public plot_session {
 protected:
-    // The lines one symbol of the given type at (0, 0) writes.
-    lines symbol(int type) {
+    // The lines_t one symbol of the given type at (0, 0) writes.
+    lines_t symbol(int type) {
         float x = 0, y = 0;
         ssymboltype(type, 1);
         skip_lines();
@@ -53,14 +53,14 @@ TEST_F(symbols, ShapesOfEveryType) {
                                          "stroke"}));
     EXPECT_EQ(symbol(40), path({"287.51 287.51 moveto", "279.49 287.51 lineto", "279.49 279.49 lineto",
                                 "287.51 279.49 lineto", "287.51 287.51 lineto"}));
-    lines circle = symbol(1);
+    lines_t circle = symbol(1);
     ASSERT_EQ(circle.size(), 22u);
     EXPECT_EQ(circle[1], "289.17 283.50 moveto");
     EXPECT_EQ(circle[6], "283.03 289.15 lineto");  // 5 steps of 18.95 degrees
     EXPECT_EQ(circle[20], circle[1].substr(0, 14) + "lineto");
     for (int other : {0, 2, 18, 19, 41, 1000}) EXPECT_EQ(symbol(other), circle) << other;
     for (int t = 3; t <= 9; ++t) {
-        lines l = symbol(t);
+        lines_t l = symbol(t);
         ASSERT_EQ(l.size(), std::size_t(t + 3)) << t;
         EXPECT_EQ(l[1], "283.50 289.17 moveto") << t;
         EXPECT_EQ(l[std::size_t(t + 1)], "283.50 289.17 lineto") << t;
@@ -72,18 +72,18 @@ TEST_F(symbols, ShapesOfEveryType) {
     EXPECT_EQ(symbol(13), HBAR + VBAR);
     EXPECT_EQ(symbol(14), path({"287.51 287.51 moveto", "279.49 279.49 lineto"}) +
                               path({"279.49 287.51 moveto", "287.51 279.49 lineto"}));
-    lines star = symbol(15);
+    lines_t star = symbol(15);
     EXPECT_EQ(count(star, "newpath"), 3);
-    EXPECT_EQ(lines(star.begin() + 4, star.begin() + 8), path({"283.50 289.17 moveto", "283.50 277.83 lineto"}));
+    EXPECT_EQ(lines_t(star.begin() + 4, star.begin() + 8), path({"283.50 289.17 moveto", "283.50 277.83 lineto"}));
     EXPECT_EQ(count(symbol(16), "283.50 283.50 moveto"), 3);
     EXPECT_EQ(symbol(17)[10], "283.50 289.17 lineto");  // the third of five spokes, straight up
 
     EXPECT_EQ(symbol(20), circle + DOT);
     EXPECT_EQ(symbol(23), circle + VBAR + HBAR);
-    lines filled = symbol(-23);  // the bars on top are plain lines
+    lines_t filled = symbol(-23);  // the bars on top are plain lines
     ASSERT_EQ(filled.size(), 32u);
     EXPECT_EQ(filled[21], "closepath gsave");
-    EXPECT_EQ(lines(filled.begin() + 24, filled.end()), VBAR + HBAR);
+    EXPECT_EQ(lines_t(filled.begin() + 24, filled.end()), VBAR + HBAR);
 
     // Without fill a filled type differs from the hollow one by closepath.
     int hollow = 0;
@@ -122,11 +122,11 @@ TEST_F(symbols, PolygonsPast501PointsAreCutWithAWarning) {
     skip_lines();
     con.screen.clear();
     uspolygon(x.data(), y.data(), 502);
-    lines body = new_lines();
+    lines_t body = new_lines();
     EXPECT_EQ(count(body, "closepath gsave"), 2);
     auto second = std::find(body.rbegin(), body.rend(), "newpath").base();  // points 501 and 502
     ASSERT_LT(second + 2, body.end());
-    EXPECT_EQ(lines(second, second + 3), (lines{"5.67 56.70 moveto", "11.34 56.70 lineto", "closepath gsave"}));
+    EXPECT_EQ(lines_t(second, second + 3), (lines_t{"5.67 56.70 moveto", "11.34 56.70 lineto", "closepath gsave"}));
     for (const char* l : {" Polygone vertices =      502", " Plot buffer size  =      501",
                           " ==> Decomposing in smaller polygons"})
         EXPECT_EQ(count(con.screen, l), 1) << l;

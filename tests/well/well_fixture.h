@@ -1,21 +1,23 @@
-// Dialogues on the well data: the console of the Dialogue fixture, with the
-// well subsystem brought to its start-up state and sample files at hand.
+// Dialogues on the well data and what stands on it: the console of the
+// Dialogue fixture, every subsystem in the state a run starts in (as the
+// main routine leaves them after its banner) and sample files at hand.
 #pragma once
 
 #include <filesystem>
 #include <string>
 
 #include "dialogue.h"
+#include "plot/pages.h"
+#include "shell/main_program.h"
 #include "well/welldat.h"
 #include "well/wellpara.h"
 
 struct WellDialogue : Dialogue {
     void SetUp() override {
         Dialogue::SetUp();
-        swellparam(5);
-        int id = 0;
-        wdtype(id, 5);
-        readwell2(5);
+        // The page record starts as loaded; no reset of the run clears it.
+        plt1blk = plt1blk_t{};
+        tarnolix_startup(false);
         int ilist = 0;
         status(ilist, 5);
         clear();
