@@ -15,6 +15,24 @@ using namespace attrdetail;
 
 namespace {
 
+// What the device may read of the attributes.
+const psattribute_source DEVICE_VIEW{
+    [] { return plt2blk.lcolor != 0; },
+    [](int role) {
+        return role == 1 ? plt2blk.ilinecol : role == 2 ? plt2blk.ifillcol : plt2blk.itextcol;
+    },
+    [](int i, float* c) {
+        c[0] = plt2blk.RED(i);
+        c[1] = plt2blk.GREEN(i);
+        c[2] = plt2blk.BLUE(i);
+    },
+    []() -> int& { return plt2blk.icolcur; },
+    [] { return plt2blk.ifillsty != 0; },
+    [] { return plt2blk.ijustif; },
+    [] { return plt2blk.textangle; },
+};
+[[maybe_unused]] const bool DEVICE_VIEW_REGISTERED = (psattributesource(DEVICE_VIEW), true);
+
 constexpr version_block VB_SLINEWIDTH{"slinewidth ", " 7.0", "2020-10-11"};
 constexpr version_block VB_STEXTSIZE{"stextsize  ", " 8.0", "2020-10-12"};
 constexpr version_block VB_STEXTFONT{"stextfont           ", " 4.0", "2020-10-13"};

@@ -7,7 +7,6 @@
 #include <string>
 
 #include "math/angles.h"
-#include "plot/attributes.h"
 #include "plot/pages.h"
 #include "shell/format.h"
 #include "shell/frames.h"
@@ -74,9 +73,13 @@ void point_line(float x, float y, const char* word) {
     ps(std::string_view(buf, std::size_t(k) + w));
 }
 
-void colour_line(int i) {
-    writef(psparams_90.iunitps, "(3(f6.3,1x),a)", plt2blk.RED(i) / 100.0f,
-           plt2blk.GREEN(i) / 100.0f, plt2blk.BLUE(i) / 100.0f, "setrgbcolor");
+psattribute_source attr{};
+
+void colour_line(int i, std::string_view op = "setrgbcolor") {
+    float c[3];
+    attr.rgb(i, c);
+    writef(psparams_90.iunitps, "(3(f6.3,1x),a)", c[0] / 100.0f, c[1] / 100.0f, c[2] / 100.0f,
+           op);
 }
 
 void fill_tables() {
@@ -335,25 +338,26 @@ void psstrokepath() {
     psparams_90.ipathps = 0;
 }
 
+void psattributesource(const psattribute_source& source) { attr = source; }
+
 void psrgbcolor(const int& mode) {
-    if (plt2blk.lcolor == 0) return;
-    int want;
+    if (!attr.incolour()) return;
+    int& inforce = attr.inforce();
     switch (mode) {
     case -1:
         colour_line(1);
-        plt2blk.icolcur = 1;
+        inforce = 1;
         return;
-    case 0:
-        colour_line(plt2blk.icolcur);
-        return;
-    case 1: want = plt2blk.ilinecol; break;
-    case 2: want = plt2blk.ifillcol; break;
-    case 3: want = plt2blk.itextcol; break;
+    case 0: colour_line(inforce); return;
+    case 1:
+    case 2:
+    case 3: break;
     default: return;
     }
-    if (plt2blk.icolcur == want) return;
+    const int want = attr.colourof(mode);
+    if (inforce == want) return;
     colour_line(want);
-    plt2blk.icolcur = want;
+    inforce = want;
 }
 
 void deline(float* x, float* y, const int& n) {
@@ -372,17 +376,15 @@ void depolygon(float* x, float* y, const int& n) {
     if (n <= 0) return;
     psmoveto(x[0], y[0], 1);
     if (n > 1) pslineto(x + 1, y + 1, n - 1);
-    if (plt2blk.ifillsty == 0) {
+    if (!attr.filled()) {
         ps("closepath");
     } else {
         // The fill runs inside gsave/grestore, which keeps the path for the
         // outline and undoes the fill colour: icolcur stays true.
         ps("closepath gsave");
         const int u = psparams_90.iunitps;
-        if (plt2blk.lcolor != 0) {
-            const int i = plt2blk.ifillcol;
-            writef(u, "(3(f6.3,1x),a)", plt2blk.RED(i) / 100.0f, plt2blk.GREEN(i) / 100.0f,
-                   plt2blk.BLUE(i) / 100.0f, "setrgbcolor fill grestore");
+        if (attr.incolour()) {
+            colour_line(attr.colourof(2), "setrgbcolor fill grestore");
         } else {
             writef(u, "(f6.3,1x,a)", 0.5f, "setgray fill grestore");
         }
@@ -392,7 +394,8 @@ void depolygon(float* x, float* y, const int& n) {
 
 void detext2(float& x, float& y, std::string_view text) {
     const int u = psparams_90.iunitps;
-    const int just = plt2blk.ijustif;
+    const int just = attr.justification();
+    const float angle = attr.textangle();
     const int ajust = just < 0 ? -just : just;
 
     std::string_view t = text;
@@ -404,13 +407,13 @@ void detext2(float& x, float& y, std::string_view text) {
         // Down the text's own axis, so that the string's base lands where
         // the base must be for the point to be at mid-height or top.
         const float h = psparams_90.textsizeps * 0.5f * float(v);
-        const float a = rad(plt2blk.textangle);
+        const float a = rad(angle);
         xs = x + std::sin(a) * h;
         ys = y - std::cos(a) * h;
     }
     psmoveto(xs, ys, 0);
 
-    if (plt2blk.textangle != 0.0f) writef(u, "(f7.2,1x,a)", plt2blk.textangle, "rotate");
+    if (angle != 0.0f) writef(u, "(f7.2,1x,a)", angle, "rotate");
 
     fstr<12> size;
     int nsize = 0;
@@ -431,7 +434,7 @@ void detext2(float& x, float& y, std::string_view text) {
         ps("show");
     }
 
-    if (plt2blk.textangle != 0.0f) writef(u, "(f7.2,1x,a)", -plt2blk.textangle, "rotate");
+    if (angle != 0.0f) writef(u, "(f7.2,1x,a)", -angle, "rotate");
 }
 
 void intslinewidth(const float& width) {

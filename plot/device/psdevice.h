@@ -22,6 +22,20 @@ struct psparams_90_t {
 };
 extern psparams_90_t psparams_90;
 
+// What the device reads of the drawing attributes, through functions that
+// the attributes register at load, so that the device stands below them and
+// knows nothing of their record.
+struct psattribute_source {
+    bool (*incolour)();                     // false: a black and white plot
+    int (*colourof)(int role);              // colour index of role 1 line, 2 fill, 3 text
+    void (*rgb)(int index, float* components);  // red, green, blue in percent
+    int& (*inforce)();                      // the colour now set in the plot file
+    bool (*filled)();                       // polygons are filled
+    int (*justification)();                 // text justification, -11 to 11
+    float (*textangle)();                   // text angle, degrees
+};
+void psattributesource(const psattribute_source& source);
+
 // Reads or asks for the page format, opens the plot file and writes its
 // head. name is the plot file name, updated to the name actually opened.
 // Called by plinit only.
