@@ -5,9 +5,9 @@
 #include <benchmark/benchmark.h>
 
 #include <cmath>
-#include <deque>
 #include <string>
 
+#include "bench_session.h"
 #include "borehole/logplot2.h"
 #include "borehole/wellplot.h"
 #include "math/angles.h"
@@ -23,25 +23,9 @@
 
 namespace {
 
-// Answers from a script, and a blank line once it is spent; the screen is
-// dropped.
-struct scripted_console : console {
-    std::deque<std::string> keys;
-    void put_line(std::string_view) override {}
-    std::string get_line() override {
-        if (keys.empty()) return std::string();
-        std::string k = keys.front();
-        keys.pop_front();
-        return k;
-    }
-};
-
 // A rotating tool in a hole with a breakout every 2000 samples.
 void load_well() {
-    swellparam(5);
-    int id = 0;
-    wdtype(id, 5);
-    id = 200;
+    int id = 200;
     wdtype(id, 1);
     welldat_t& w = welldat;
     w.ndatwd = MAXDATWD;
@@ -63,14 +47,7 @@ void load_well() {
 void BM_LogPage320(benchmark::State& state) {
     scripted_console con;
     console_scope scope(con);
-    tarnolix_startup(false);
-    iocom.lpause = false;
-    runinfo3com.levelrt = 1;
-    runinfo3com.ROUTNAME(1) = "tarnolix";
-    con.keys = {""};  // default page format
-    fstr<40> name = "/dev/null";
-    plinit(name, 5);
-    swellplot(5);  // opening from the defaults cleared the log layouts
+    start_log_session(con);
     load_well();
     for (auto _ : state) {
         con.keys = {"320", "", "99"};  // the page, a new page on the open file, leave

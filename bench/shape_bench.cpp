@@ -6,10 +6,10 @@
 #include <benchmark/benchmark.h>
 
 #include <cmath>
-#include <deque>
 #include <filesystem>
 #include <string>
 
+#include "bench_session.h"
 #include "borehole/logplot2.h"
 #include "borehole/wellplot.h"
 #include "math/angles.h"
@@ -24,24 +24,10 @@
 
 namespace {
 
-struct scripted_console : console {
-    std::deque<std::string> keys;
-    void put_line(std::string_view) override {}
-    std::string get_line() override {
-        if (keys.empty()) return std::string();
-        std::string k = keys.front();
-        keys.pop_front();
-        return k;
-    }
-};
-
 // A deviated hole of type 210 that cycles through gauge, breakout (ASE),
 // washout (ADE) and key seat (ARK) every 4000 samples.
 void load_well() {
-    swellparam(5);
-    int id = 0;
-    wdtype(id, 5);
-    id = 210;
+    int id = 210;
     wdtype(id, 1);
     welldat_t& w = welldat;
     w.ndatwd = MAXDATWD;
@@ -77,17 +63,7 @@ void BM_ShapePage(benchmark::State& state) {
     std::filesystem::current_path(scratch);
     scripted_console con;
     console_scope scope(con);
-    initsio2(5);
-    iocom.lpause = false;
-    runinfo3com.levelrt = 1;
-    runinfo3com.ROUTNAME(1) = "tarnolix";
-    trigoset();
-    splotattributes(5);
-    con.keys = {""};  // default page format
-    fstr<40> name = "/dev/null";
-    plinit(name, 5);
-    swellplot(5);
-    logplot2(5);
+    start_log_session(con);
     load_well();
     const bool table = icmd == 333 || icmd == 335;
     for (auto _ : state) {
