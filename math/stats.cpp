@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr version_block VB_STAT1D0{"stat1d0", " 2.1", "2016-12-19"};
+constexpr version_block VB_STAT1D0{"stat1d0    ", " 2.1", "2016-12-19"};
 constexpr version_block VB_STATCIRC{"statcirc360", " 1.0", "2016-12-20"};
 
 const char EQUALS[] = "===========================================";
