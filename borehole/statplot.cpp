@@ -12,6 +12,7 @@
 #include "plot/pages.h"
 #include "shell/format.h"
 #include "shell/intera.h"
+#include "shell/menus.h"
 #include "shell/prompts.h"
 #include "shell/runinfo.h"
 #include "shell/sio.h"
@@ -24,8 +25,8 @@ wellhisblk_t wellhisblk;
 
 namespace {
 
-void line(std::string_view s) { writef(iocom.isout, "(1x,a)", s); }
-void rule() { line(DASHED); }
+void line(std::string_view s) { textline(s); }
+void rule() { menurule(); }
 void origin_line(std::string_view s, float v) { writef(iocom.isout, "(2(1x,a,1x,f10.3))", s, v); }
 
 // Work columns of this menu, apart from those of the log analysis.
@@ -89,24 +90,16 @@ void swellhst(const int& intera) {
         }
     }
     if (mode_silent(intera)) return;
-    for (;;) {
-        submenuhead(VB_SWELLHST);
-        if (iocom.LWITO(2)) {
-            rule();
-            line("HISTOGRAMS LAYOUT");
-            rule();
-            line("modify histogram ......................10");
-            line("EXIT ..................................99");
-        }
-        menutail();
-        int c = 99, ierr = 0;
-        inintegdef(c, "your choice", 99, ierr);
-        if (c == 99) break;
-        if (c == 10) {
-            int isw = 1;
-            shstall(isw, 2);
-        }
-    }
+    auto show = [] {
+        menublock("HISTOGRAMS LAYOUT");
+        line("modify histogram ......................10");
+        line("EXIT ..................................99");
+    };
+    menuloop(VB_SWELLHST, show, [](int c) {
+        if (c != 10) return;
+        int isw = 1;
+        shstall(isw, 2);
+    });
 }
 
 namespace {
@@ -148,7 +141,7 @@ void entry(flags_t& f) {
         logdataflags(f.ldata, f.lcal, f.lazc, f.lrb);
     }
     rule();
-    writef(iocom.isout, "(1x,a,1x,i6)", "Total number of data = ", n);
+    intline("Total number of data = ", n);
     line("Computing:");
     if (computeaz) {
         line(" (1) AzCmax");
@@ -185,20 +178,19 @@ void entry(flags_t& f) {
 }
 
 void menu() {
-    const int out = iocom.isout;
     const statsaved_t& s = statsaved;
     welldat_t& w = welldat;
     rule();
     line("PLOT:");
-    writef(out, "(5(1x,a))", "plot file name :", s.fplotst);
+    textline("plot file name :", s.fplotst);
     line("open plot file ........................10");
-    writef(out, "(1x,a,1x,l1)", "Landscape(T)/Portrait(F) ..............11", wellplot.llandscape);
+    flagline("Landscape(T)/Portrait(F) ..............11", wellplot.llandscape);
     line("set plot and axes params ..............13");
     line("close plot file .......................20");
     rule();
     line("REPRESENTATION:");
     line("modify histogram  .....................32");
-    writef(out, "(1x,a,1x,l1)", "Histogram list with plot ..............33", s.lhstlist);
+    flagline("Histogram list with plot ..............33", s.lhstlist);
     int ilist = 1;
     dat1astatus1("WELL", w.TYPWDNAM(w.itypwd).sv(), w.IDTYPWD(w.itypwd), w.finwd.sv(),
                  w.titlewd.sv(), w.ndatwd, MAXDATWD, w.NAMVAR, w.nvarwd, MAXVARWD, w.JCOL.data(),
@@ -207,7 +199,7 @@ void menu() {
     line("Change hole parameters ................50");
     rule();
     line("LOCAL PARAMETERS:");
-    writef(out, "(1x,a,1x,l1)", "z test ................................51", s.lztest);
+    flagline("z test ................................51", s.lztest);
     rule();
     line("PLOT:");
     line("HISTOGRAMS:");
@@ -258,8 +250,8 @@ void pagehead(int icmd, int i1, int i2, int nsel) {
     rule();
     line(first);
     line(z ? "WITH DEPTH SELECTION" : "WITHOUT DEPTH SELECTION");
-    writef(iocom.isout, "(1x,a,1x,i6)", "Number of data = ", nsel);
-    writef(iocom.isout, "(1x,a,1x,i6)", "Command        = ", icmd);
+    intline("Number of data = ", nsel);
+    intline("Command        = ", icmd);
     rule();
     if (icmd > 300 || !iocom.lplotopen) return;
 

@@ -19,13 +19,6 @@ bool checked(int h, const version_block& vb, std::string_view closing) {
     return false;
 }
 
-int choice() {
-    menutail();
-    int c = 99, ierr = 0;
-    inintegdef(c, "your choice", 99, ierr);
-    return c;
-}
-
 }  // namespace hst
 
 namespace {

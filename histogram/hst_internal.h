@@ -6,12 +6,13 @@
 
 #include "histogram/blkhst8.h"
 #include "shell/format.h"
+#include "shell/menus.h"
 #include "shell/sio.h"
 
 namespace hst {
 
-inline void line(std::string_view s) { writef(iocom.isout, "(5(1x,a))", s); }
-inline void rule() { line("-------------------------------------------"); }
+inline void line(std::string_view s) { textline(s); }
+inline void rule() { menurule(); }
 // Counts and numbers of the store.
 inline void count(std::string_view s, int v) { writef(iocom.isout, "(4(1x,a,1x,i3))", s, v); }
 // "<text>[ lo , hi ]" in the count format.
@@ -19,8 +20,8 @@ inline void outside(std::string_view text, int lo, int hi) {
     writef(iocom.isout, "(4(1x,a,1x,i3))", text, lo, ",", hi, "]");
 }
 // A value line of a menu.
-inline void ival(std::string_view s, int v) { writef(iocom.isout, "(1x,a,1x,i6)", s, v); }
-inline void rval(std::string_view s, float v) { writef(iocom.isout, "(1x,a,1x,g14.6)", s, v); }
+inline void ival(std::string_view s, int v) { intline(s, v); }
+inline void rval(std::string_view s, float v) { realline(s, v); }
 inline void tval(std::string_view s, std::string_view t) { writef(iocom.isout, "(5(1x,a))", s, t); }
 
 inline bool valid(int h) { return h >= 1 && h <= blkhst8.NHST0; }
@@ -36,9 +37,5 @@ inline void badnumber(int h, std::string_view hname = "histogram nb =") {
 // The bad number frame that refuses: error head, the four lines, the
 // closing line, error tail. Returns true when h is usable.
 bool checked(int h, const version_block& vb, std::string_view closing);
-
-// The menu of every setter ends the same way: the tail, then "your choice"
-// with 99 as default.
-int choice();
 
 }  // namespace hst

@@ -3,6 +3,7 @@
 #include "histogram/hst_internal.h"
 #include "shell/frames.h"
 #include "shell/intera.h"
+#include "shell/menus.h"
 #include "shell/prompts.h"
 #include "shell/runinfo.h"
 
@@ -124,10 +125,9 @@ void hstwrite(const int& unit, int& hfirst, int& hlast, const int& intera) {
                 line("WRITE ....................100");
                 line("EXIT ......................99");
             }
-            menutail();
-            int c = def, ierr = 0;
-            inintegdef(c, "your choice", def, ierr);
+            const int c = menuchoice(def);
             if (c == 99) break;
+            int ierr = 0;
             const int nh = blkhst8.NHST0;
             if (c == 10) {
                 int isw = 0;

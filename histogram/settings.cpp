@@ -8,27 +8,22 @@
 #include "plot/attributes.h"
 #include "shell/frames.h"
 #include "shell/intera.h"
+#include "shell/menus.h"
 #include "shell/prompts.h"
 
 using namespace hst;
 
 namespace {
 
-// The head of a setter's menu: sub-menu head, and with the full output
-// level the title between rules and the numbers of the store. False when
-// the menu lines are not to be shown.
-bool menutop(const version_block& vb, std::string_view title, int h) {
-    submenuhead(vb);
-    if (!iocom.LWITO(2)) return false;
-    rule();
-    line(title);
-    rule();
+// The top of a setter's menu: the title between rules and the numbers of
+// the store.
+void top(std::string_view title, int h) {
+    menublock(title);
     if (h > 0) {
         writef(iocom.isout, "(1x,a,1x,i3)", "Histogram nb            :", h);
         writef(iocom.isout, "(1x,a,1x,i3)", "Current nb of histograms:", blkhst8.NHST0);
         writef(iocom.isout, "(1x,a,1x,i3)", "Maximum nb of histograms:", MAXHST);
     }
-    return true;
 }
 
 // A bad histogram number where the setter grows the set: the user is asked
@@ -70,18 +65,20 @@ void shstnb(int& n, const int& intera) {
         errortail00();
         lift(mode);
     }
-    while (mode_talks(mode)) {
-        if (menutop(VB_SHSTNB, "Setting number of histograms", 0)) {
+    if (mode_talks(mode)) {
+        auto show = [&] {
+            top("Setting number of histograms", 0);
             writef(iocom.isout, "(1x,a,1x,i3)", "Maximum nb of histograms:", MAXHST);
             writef(iocom.isout, "(1x,a,1x,i3)", "Current nb of histograms:", blkhst8.NHST0);
             writef(iocom.isout, "(1x,a,1x,i3)", "New     nb of histograms:", n);
             line("Choose nb of histograms ...100");
             line("EXIT .......................99");
-        }
-        const int c = choice();
-        if (c == 99) break;
-        int ierr = 0;
-        if (c == 100) inintegvindef(n, "nb of histograms to use", n, 1, MAXHST, ierr);
+        };
+        auto act = [&](int c) {
+            int ierr = 0;
+            if (c == 100) inintegvindef(n, "nb of histograms to use", n, 1, MAXHST, ierr);
+        };
+        menuloop(VB_SHSTNB, show, act);
     }
     blkhst8.NHST0 = n;
 }
@@ -108,18 +105,20 @@ void shstxind(int& ix, int& h, const int& intera) {
         errortail00();
         lift(mode);
     }
-    while (mode_talks(mode)) {
-        if (menutop(VB_SHSTXIND, "X axis index setting", h)) {
+    if (mode_talks(mode)) {
+        auto show = [&] {
+            top("X axis index setting", h);
             writef(iocom.isout, "(1x,a,1x,i3)", "Maximum number of X axis:", MAXXHST);
             writef(iocom.isout, "(1x,a,1x,i3)", "Current X axis index    :", b.IXHST0(h));
             writef(iocom.isout, "(1x,a,1x,i3)", "New     X axis index    :", ix);
             line("Choose new X axis index ...100");
             line("EXIT .......................99");
-        }
-        const int c = choice();
-        if (c == 99) break;
-        int ierr = 0;
-        if (c == 100) inintegvindef(ix, "X axis index", ix, 1, MAXXHST, ierr);
+        };
+        auto act = [&](int c) {
+            int ierr = 0;
+            if (c == 100) inintegvindef(ix, "X axis index", ix, 1, MAXXHST, ierr);
+        };
+        menuloop(VB_SHSTXIND, show, act);
     }
     b.IXHST0(h) = ix;
 }
@@ -237,8 +236,9 @@ void shstxbin2(float& xmin, float& xmax, int& nbin, int& nxtic, int& nxlab, fstr
     if (bintests(xmin, xmax, nbin, nxtic)) lift(mode);
     float dx = (xmax - xmin) / float(nbin);
 
-    while (mode_talks(mode)) {
-        if (menutop(VB_SHSTXBIN2, "X axis bin setting", h)) {
+    if (mode_talks(mode)) {
+        auto show = [&] {
+            top("X axis bin setting", h);
             tval("x-label ........................120", xlabel.sv());
             rval("value mini .....................200", xmin);
             rval("value maxi .....................300", xmax);
@@ -247,33 +247,34 @@ void shstxbin2(float& xmin, float& xmax, int& nbin, int& nxtic, int& nxlab, fstr
             ival("major intervals between labels .460", nxlab);
             rval("interval size ..................500", dx);
             line("EXIT ............................99");
-        }
-        const int c = choice();
-        if (c == 99) break;
-        int ierr = 0;
-        switch (c) {
-        case 120: {
-            fstr<LABLENHST> t = xlabel.sv();
-            inchardef(t, "histogram x-label", t.sv(), ierr);
-            xlabel = t.sv();
-            break;
-        }
-        case 200: inrealdef(xmin, "minimum value", xmin, ierr); break;
-        case 300: inrealdef(xmax, "maximum value", xmax, ierr); break;
-        case 400: inintegvindef(nbin, "nb of intervals", nbin, 1, MAXBINHST, ierr); break;
-        case 450:
-            inintegvindef(nxtic, "nb of intervals within major tics", nxtic, 1, nbin, ierr);
-            break;
-        case 460: {
-            const int top = nbin / nxtic > 1 ? nbin / nxtic : 1;
-            inintegvindef(nxlab, "major intervals between labels", nxlab, 1, top, ierr);
-            break;
-        }
-        case 500: binwidth(xmin, xmax, nbin, dx); break;
-        default: break;
-        }
-        bintests(xmin, xmax, nbin, nxtic);
-        dx = (xmax - xmin) / float(nbin);
+        };
+        auto act = [&](int c) {
+            int ierr = 0;
+            switch (c) {
+            case 120: {
+                fstr<LABLENHST> t = xlabel.sv();
+                inchardef(t, "histogram x-label", t.sv(), ierr);
+                xlabel = t.sv();
+                break;
+            }
+            case 200: inrealdef(xmin, "minimum value", xmin, ierr); break;
+            case 300: inrealdef(xmax, "maximum value", xmax, ierr); break;
+            case 400: inintegvindef(nbin, "nb of intervals", nbin, 1, MAXBINHST, ierr); break;
+            case 450:
+                inintegvindef(nxtic, "nb of intervals within major tics", nxtic, 1, nbin, ierr);
+                break;
+            case 460: {
+                const int top = nbin / nxtic > 1 ? nbin / nxtic : 1;
+                inintegvindef(nxlab, "major intervals between labels", nxlab, 1, top, ierr);
+                break;
+            }
+            case 500: binwidth(xmin, xmax, nbin, dx); break;
+            default: break;
+            }
+            bintests(xmin, xmax, nbin, nxtic);
+            dx = (xmax - xmin) / float(nbin);
+        };
+        menuloop(VB_SHSTXBIN2, show, act);
     }
 
     b.NBINHST0(ix) = nbin;
@@ -302,8 +303,9 @@ void shstyextype(int& method, int& h, const int& intera) {
         count("==> RESET ihymaxtypea =", method);
         warningtail00();
     }
-    while (mode_talks(intera)) {
-        if (menutop(VB_SHSTYEXTYPE, "Y axis extrema method setting", h)) {
+    if (mode_talks(intera)) {
+        auto show = [&] {
+            top("Y axis extrema method setting", h);
             ival("Current y extrema type  :", b.NYEXTYPHST0(h));
             ival("New     y extrema type  :", method);
             line("ymin & ymax = last set ........0");
@@ -311,18 +313,19 @@ void shstyextype(int& method, int& h, const int& intera) {
             line("ymin = data minimum ...........2");
             line("ymin & ymax = mode & mini......3");
             line("SET & EXIT ...................99");
-        }
-        const int c = choice();
-        if (c == 99) break;
-        if (c >= 0 && c <= 3) {
-            method = c;
-        } else {
-            warninghead(VB_SHSTYEXTYPE);
-            count("y extrema type =", c);
-            outside("outside [", 0, 3);
-            line("==> NO ACTION");
-            warningtail00();
-        }
+        };
+        auto act = [&](int c) {
+            if (c >= 0 && c <= 3) {
+                method = c;
+            } else {
+                warninghead(VB_SHSTYEXTYPE);
+                count("y extrema type =", c);
+                outside("outside [", 0, 3);
+                line("==> NO ACTION");
+                warningtail00();
+            }
+        };
+        menuloop(VB_SHSTYEXTYPE, show, act);
     }
     b.NYEXTYPHST0(h) = method;
 }
@@ -338,9 +341,8 @@ void shstyext(float& ymin, float& ymax, int& h, const int& intera) {
         ymin = b.YMINHST0(h);
         ymax = b.YMAXHST0(h);
     }
-    while (mode_talks(intera)) {
-        submenuhead(VB_SHSTYEXT);
-        if (iocom.LWITO(2)) {
+    if (mode_talks(intera)) {
+        auto show = [&] {
             const int ix = b.IXHST0(h);
             rule();
             line("Y axis min-max setting");
@@ -360,12 +362,13 @@ void shstyext(float& ymin, float& ymax, int& h, const int& intera) {
             rval("estimated ymax ..............100", ymax);
             rval("estimated ymin ..............200", ymin);
             line("EXIT .........................99");
-        }
-        const int c = choice();
-        if (c == 99) break;
-        int ierr = 0;
-        if (c == 100) inrealdef(ymax, "y axis max value", ymax, ierr);
-        if (c == 200) inrealdef(ymin, "y axis min value", ymin, ierr);
+        };
+        auto act = [&](int c) {
+            int ierr = 0;
+            if (c == 100) inrealdef(ymax, "y axis max value", ymax, ierr);
+            if (c == 200) inrealdef(ymin, "y axis min value", ymin, ierr);
+        };
+        menuloop(VB_SHSTYEXT, show, act);
     }
     b.YMINHST0(h) = ymin;
     b.YMAXHST0(h) = ymax;
@@ -415,8 +418,9 @@ void shstplotype(int& type, int& h, const int& intera) {
         typewarning(type, "");
         type = 1;
     }
-    while (mode_talks(intera)) {
-        if (menutop(VB_SHSTPLOTYPE, "Plot type setting", h)) {
+    if (mode_talks(intera)) {
+        auto show = [&] {
+            top("Plot type setting", h);
             ival("Current plot type       :", b.IPLTYPEHST0(h));
             ival("New     plot type       :", type);
             line("Type of plot ..............command");
@@ -433,13 +437,14 @@ void shstplotype(int& type, int& h, const int& intera) {
             line("  -Y    direct ................8");
             line("  -Y    retrograde ............9");
             line("SET & EXIT ...................99");
-        }
-        const int c = choice();
-        if (c == 99) break;
-        if (c >= 1 && c <= 9)
-            type = c;
-        else
-            typewarning(c, "==> NO ACTION");
+        };
+        auto act = [&](int c) {
+            if (c >= 1 && c <= 9)
+                type = c;
+            else
+                typewarning(c, "==> NO ACTION");
+        };
+        menuloop(VB_SHSTPLOTYPE, show, act);
     }
     b.IPLTYPEHST0(h) = type;
 }
@@ -458,8 +463,9 @@ void shstplotstyle(int& style, int& h, const int& intera) {
         stylewarning(style, true, "");
         style = 11;
     }
-    while (mode_talks(intera)) {
-        if (menutop(VB_SHSTPLOTSTYLE, "Plot style setting", h)) {
+    if (mode_talks(intera)) {
+        auto show = [&] {
+            top("Plot style setting", h);
             ival("Current plot style      :", b.IPLSTYLEHST0(h));
             ival("New     plot style      :", style);
             line("Plot Style ................command");
@@ -469,13 +475,14 @@ void shstplotstyle(int& style, int& h, const int& intera) {
             line(" One rectangle per bin .......11");
             line(" One rectangle per data ......12");
             line("SET & EXIT ...................99");
-        }
-        const int c = choice();
-        if (c == 99) break;
-        if (goodstyle(c))
-            style = c;
-        else
-            stylewarning(c, true, "==> NO ACTION");
+        };
+        auto act = [&](int c) {
+            if (goodstyle(c))
+                style = c;
+            else
+                stylewarning(c, true, "==> NO ACTION");
+        };
+        menuloop(VB_SHSTPLOTSTYLE, show, act);
     }
     b.IPLSTYLEHST0(h) = style;
 }
@@ -491,22 +498,24 @@ void shstfillcolor(int& colour, int& h, const int& intera) {
     else if (mode_from_store(intera))
         colour = b.IPLFLCOLHST0(h);
     sfillcolor(colour, 1);
-    while (mode_talks(intera)) {
-        if (menutop(VB_SHSTFILLCOLOR, "Plot fill color setting", h)) {
+    if (mode_talks(intera)) {
+        auto show = [&] {
+            top("Plot fill color setting", h);
             ival("Current fill color      :", b.IPLFLCOLHST0(h));
             ival("New     fill color      :", colour);
             line("Change new fill color .......100");
             line("SET & EXIT ...................99");
-        }
-        const int c = choice();
-        if (c == 99) break;
-        if (c == 100) {
-            sfillcolor(colour, 0);
-        } else {
-            warninghead(VB_SHSTFILLCOLOR);
-            line("Unexpected answer ==> NO ACTION");
-            warningtail00();
-        }
+        };
+        auto act = [&](int c) {
+            if (c == 100) {
+                sfillcolor(colour, 0);
+            } else {
+                warninghead(VB_SHSTFILLCOLOR);
+                line("Unexpected answer ==> NO ACTION");
+                warningtail00();
+            }
+        };
+        menuloop(VB_SHSTFILLCOLOR, show, act);
     }
     b.IPLFLCOLHST0(h) = colour;
     sfillcolor(saved, 1);
@@ -548,8 +557,9 @@ void shstlabel(fstr_ref text, int& on, int& k, int& h, const int& intera) {
             on = b.ONLABELHST0(k, h) ? 1 : 0;
         }
     }
-    while (mode_talks(mode)) {
-        if (menutop(VB_SHSTLABEL, "HISTOGRAM LABELS SETTING", h)) {
+    if (mode_talks(mode)) {
+        auto show = [&] {
+            top("HISTOGRAM LABELS SETTING", h);
             line("POSITIONS <-> INDEX:");
             line("| ROSE DIAGRAM: |    X-Y BOX:   |");
             line("| 7     2     6 |       6       |");
@@ -565,21 +575,22 @@ void shstlabel(fstr_ref text, int& on, int& k, int& h, const int& intera) {
             tval("label text............2", text.sv());
             ival("draw label (0/1)......3", on);
             line("EXIT ................99");
-        }
-        const int c = choice();
-        if (c == 99) break;
-        int ierr = 0;
-        if (c == 1) {
-            inintegvindef(k, "label index", k, 1, MAXLABHST, ierr);
-            text = b.LABELHST0(k, h).sv();
-            on = b.ONLABELHST0(k, h) ? 1 : 0;
-        } else if (c == 2) {
-            fstr<LABLENHST> t = text.sv();
-            inchardef(t, "text to draw", t.sv(), ierr);
-            text = t.sv();
-        } else if (c == 3) {
-            inintegvindef(on, "whether to draw label (0=no/1=yes)", on, 0, 1, ierr);
-        }
+        };
+        auto act = [&](int c) {
+            int ierr = 0;
+            if (c == 1) {
+                inintegvindef(k, "label index", k, 1, MAXLABHST, ierr);
+                text = b.LABELHST0(k, h).sv();
+                on = b.ONLABELHST0(k, h) ? 1 : 0;
+            } else if (c == 2) {
+                fstr<LABLENHST> t = text.sv();
+                inchardef(t, "text to draw", t.sv(), ierr);
+                text = t.sv();
+            } else if (c == 3) {
+                inintegvindef(on, "whether to draw label (0=no/1=yes)", on, 0, 1, ierr);
+            }
+        };
+        menuloop(VB_SHSTLABEL, show, act);
     }
     b.ONLABELHST0(k, h) = on == 1;
     b.LABELHST0(k, h) = text.sv();

@@ -4,6 +4,7 @@
 #include "histogram/hst_internal.h"
 #include "shell/frames.h"
 #include "shell/intera.h"
+#include "shell/menus.h"
 #include "shell/prompts.h"
 
 using namespace hst;
@@ -139,13 +140,8 @@ void shst1(int& h, int& isw, const int& intera) {
         }
     }
     if (mode_silent(intera)) return;
-    for (;;) {
-        submenuhead(VB_SHST1);
-        if (iocom.LWITO(2)) shst1menu(h, isw);
-        const int c = choice();
-        if (c == 99) break;
-        const blkhst8_t& b = blkhst8;
-        const int ix = b.IXHST0(h);
+    menuloop(VB_SHST1, [&] { shst1menu(h, isw); }, [&](int c) {
+        const int ix = blkhst8.IXHST0(h);
         if (c == 100 && isw > 2) {
             int v = ix;
             shstxind(v, h, 2);
@@ -178,7 +174,7 @@ void shst1(int& h, int& isw, const int& intera) {
             int on = 0, k = c - 330;
             shstlabel(text, on, k, h, 2);
         }
-    }
+    });
 }
 
 void shstall(int& isw, const int& intera) {
@@ -214,38 +210,32 @@ void shstall(int& isw, const int& intera) {
     switchcheck(isw, VB_SHSTALL, 0);
     if (mode_silent(intera)) return;
     const int sub = intera == 4 ? 4 : 2;
-    for (;;) {
-        submenuhead(VB_SHSTALL);
-        if (iocom.LWITO(2)) {
-            rule();
-            line("      Global Histogram set up");
-            rule();
-            if (isw > 2)
-                writef(iocom.isout, "(1x,a,1x,i3)", "nb of histograms to use .....100", b.NHST0);
-            else
-                writef(iocom.isout, "(1x,a,1x,i3)", "nb of histograms to use .......:", b.NHST0);
-            rule();
-            if (isw > 0) {
-                line("|histo nb|        X label        |command|");
-                for (int h = 1; h <= b.NHST0; ++h)
-                    writef(iocom.isout, "(1x,'|',3x,i2,3x,'|',a23,'|',2x,i3,2x,'|')", h,
-                           b.LABELHST0(5, h).sv(), h);
-            } else {
-                line("|histo nb|    X label            |");
-                for (int h = 1; h <= b.NHST0; ++h)
-                    writef(iocom.isout, "(1x,'|',3x,i2,3x,'|',a23,'|')", h,
-                           b.LABELHST0(5, h).sv());
-            }
-            rule();
-            line("EXIT .........................99");
+    auto show = [&] {
+        menublock("      Global Histogram set up");
+        if (isw > 2)
+            writef(iocom.isout, "(1x,a,1x,i3)", "nb of histograms to use .....100", b.NHST0);
+        else
+            writef(iocom.isout, "(1x,a,1x,i3)", "nb of histograms to use .......:", b.NHST0);
+        menurule();
+        if (isw > 0) {
+            textline("|histo nb|        X label        |command|");
+            for (int h = 1; h <= b.NHST0; ++h)
+                writef(iocom.isout, "(1x,'|',3x,i2,3x,'|',a23,'|',2x,i3,2x,'|')", h,
+                       b.LABELHST0(5, h).sv(), h);
+        } else {
+            textline("|histo nb|    X label            |");
+            for (int h = 1; h <= b.NHST0; ++h)
+                writef(iocom.isout, "(1x,'|',3x,i2,3x,'|',a23,'|')", h, b.LABELHST0(5, h).sv());
         }
-        int c = choice();
-        if (c == 99) break;
+        menurule();
+        textline("EXIT .........................99");
+    };
+    menuloop(VB_SHSTALL, show, [&](int c) {
         if (c == 100 && isw == 3) {
             int n = b.NHST0;
             shstnb(n, sub);
         } else if (c >= 1 && c <= b.NHST0) {
             shst1(c, isw, sub);
         }
-    }
+    });
 }
