@@ -191,7 +191,7 @@ TEST_F(StatMenu, EveryPageCarriesItsHeadAndRendersInGhostscript) {
 }
 
 TEST_F(MainMenu, StartUpOrderAndCommand130) {
-    type({"130", "", "99", "9999"});  // the no-data frame pauses
+    type({"130", "", "32", "99", "99", "9999"});  // the no-data frame pauses
     run();
     std::vector<int> at;
     for (const char* s : {" INITIALIZING PLOT SCALING, ATTRIBUTES & AXES", " INITIALIZING TARNOLIX HISTOGRAMS",
@@ -202,6 +202,12 @@ TEST_F(MainMenu, StartUpOrderAndCommand130) {
         EXPECT_GT(at[k], k > 0 ? at[k - 1] : 0) << k;
     }
     EXPECT_EQ(blkhst8.NHST0, 5);
+    // The five histograms of every page, as the store's list shows them.
+    const int t = find(" |histo nb|        X label        |command|");
+    ASSERT_GT(t, 0);
+    EXPECT_EQ(lines(t + 1, 5), (lines_t{" |    1   |CALIPER (cm)           |    1  |", " |    2   |DC                     |    2  |",
+                                        " |    3   |Angle[360]             |    3  |", " |    4   |Angle[180]             |    4  |",
+                                        " |    5   |Devi[90]               |    5  |"}));
     EXPECT_GT(find(" @ subroutine statplot              v8.1 2019-07-29", at.back()), at.back());
     EXPECT_GT(find(" NO DATA !", at.back()), at.back());
 }

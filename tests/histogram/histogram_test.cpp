@@ -336,3 +336,25 @@ TEST_F(store, ListingHasTabSeparatedRowsThatAddUpToTheTotal) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST_F(store, ListingMenuChoosesTheRangeAndWritesOnce) {
+    int f = 1, l = 1;
+    type({"11", "2", "12", "2", "", ""});  // return writes, then return leaves
+    hstwrite(6, f, l, 0);
+    const int m = find(" READY TO WRITE HISTOGRAMS TO FILE");
+    ASSERT_GT(m, 0);
+    EXPECT_EQ(lines(m - 1, 8), (lines_t{" -------------------------------------------", " READY TO WRITE HISTOGRAMS TO FILE",
+                                        " Current histogram set up ..10", " initial histogram .........11      1",
+                                        " final   histogram .........12      1", " -------------------------------------------",
+                                        " WRITE ....................100", " EXIT ......................99"}));
+    EXPECT_EQ((std::vector<int>{f, l}), (std::vector<int>{2, 2}));
+    EXPECT_EQ(count(" Histogram number   =   2"), 1);
+    EXPECT_EQ(count(" Histogram number   =   1"), 0);
+    // The default is 100 until the list is written, then 99.
+    EXPECT_EQ(count(" Default =          100"), 3);
+    EXPECT_EQ(count(" Default =           99"), 1);
+}
+
+}  // namespace
