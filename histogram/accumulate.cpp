@@ -142,6 +142,11 @@ void ghstsize(float& xmin, float& xmax, float& ymin, float& ymax, int& h) {
         hst::count("==> RESET histogram nb =", h);
         errortail00();
     }
+    // With no histogram at all there is no box to give.
+    if (h < 1) {
+        xmin = xmax = ymin = ymax = 0.0f;
+        return;
+    }
     const int ix = b.IXHST0(h);
     xmin = b.XBNDHST0(1, ix);
     xmax = b.XBNDHST0(b.NBINHST0(ix) + 1, ix);
