@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "borehole/logplot2.h"
+#include "borehole/statplot.h"
 #include "borehole/wellplot.h"
 #include "math/angles.h"
 #include "plot/attributes.h"
@@ -82,11 +83,11 @@ void tarnolix_startup(bool banner) {
     // sprojxyz(5) comes here.
     splotattributes(5);
     swellplot(5);
-    // swellhst(5) comes here.
+    swellhst(5);
     swellparam(5);
     // wallplot2(5) comes here.
     logplot2(5);
-    // statplot(5) comes here.
+    statplot(5);
     wdtype(work, 5);
     readwell2(5);
 }
@@ -128,6 +129,7 @@ void tarnolix_main() {
         if (command == 100) readwell2(2);
         if (command == 110) swellparam(0);
         if (command == 120) logplot2(0);
+        if (command == 130) statplot(0);
         if (command == 9999) break;
         if (command == 999) {
             inintegdef(command, "999 to confirm quit", command, ierr);
