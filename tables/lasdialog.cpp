@@ -1,0 +1,291 @@
+// The dialogues of a LAS file: what the file holds, then which curve each
+// variable takes, in what unit, over which depths, and the read.
+#include <algorithm>
+#include <limits>
+#include <string>
+
+#include "shell/format.h"
+#include "shell/frames.h"
+#include "shell/prompts.h"
+#include "shell/sio.h"
+#include "shell/textlen.h"
+#include "shell/units.h"
+#include "tables/las.h"
+#include "tables/readreal_io.h"
+
+namespace {
+
+constexpr version_block VB_LASOPEN1{"lasopen1   ", " 1.0", "2026-11-23"};
+constexpr version_block VB_READLAS1{"readlas1   ", " 1.0", "2026-11-23"};
+constexpr int MAXVARLAS = 99;
+
+void curve_list() {
+    const lasfile_t& f = lasfile;
+    for (int j = 1; j <= f.ncurve; j += 3) {
+        const int n = std::min(3, f.ncurve - j + 1);
+        if (n == 3)
+            writef(iocom.isout, "(3(1x,i3,1x,a10,1x,a6))", j, f.MNEM(j), f.UNIT(j), j + 1,
+                   f.MNEM(j + 1), f.UNIT(j + 1), j + 2, f.MNEM(j + 2), f.UNIT(j + 2));
+        else if (n == 2)
+            writef(iocom.isout, "(3(1x,i3,1x,a10,1x,a6))", j, f.MNEM(j), f.UNIT(j), j + 1,
+                   f.MNEM(j + 1), f.UNIT(j + 1));
+        else
+            writef(iocom.isout, "(3(1x,i3,1x,a10,1x,a6))", j, f.MNEM(j), f.UNIT(j));
+    }
+}
+
+void line_reason(const version_block& vb, std::string_view fname, int line,
+                 std::string_view reason) {
+    errorhead(vb);
+    textline("LAS FILE:", trimmed(fname));
+    writef(iocom.isout, "(1x,a,1x,i6,1x,a)", "LINE", line, trimmed(reason));
+}
+
+constexpr float ALL = std::numeric_limits<float>::max();
+
+}  // namespace
+
+void lasopen1(int& ierr, std::string_view fname, int unit) {
+    ierr = 0;
+    const lasfile_t& f = lasfile;
+    int line = 0, nin = 0;
+    fstr<80> reason;
+    int e = las_header(unit, line, reason);
+    const int jdep = e == 0 ? las_alias("Depth") : 0;
+    if (e == 0 && jdep == 0) {
+        e = 1;
+        line = f.cline != 0 ? f.cline : f.aline;
+        reason = "NO DEPTH CURVE: DEPT, DEPTH OR MD";
+    }
+    if (e == 0) e = las_scan(unit, jdep, 1.0, -ALL, ALL, nin, line, reason);
+    if (e != 0) {
+        line_reason(VB_LASOPEN1, fname, line, reason.sv());
+        unit_close(unit);
+        textline("input file", trimmed(fname), "closed");
+        errortail00();
+        ierr = 1;
+        return;
+    }
+
+    submenuhead(VB_LASOPEN1);
+    textline("LAS FILE:", trimmed(fname));
+    writef(iocom.isout, "(5(1x,a))", "LAS version:", f.vers.trimmed(), "  wrapped:",
+           f.wrapped ? "YES" : "NO");
+    textline("well name  :", f.well.trimmed().empty() ? "none given" : f.well.trimmed());
+    textline("NULL value :", f.hasnull ? f.nulltext.trimmed() : "none given");
+    writef(iocom.isout, "(1x,a,1x,i6)", "curves     :", f.ncurve);
+    curve_list();
+    textline(DASHED);
+    writef(iocom.isout, "(5(1x,a))", "depth curve:", f.MNEM(jdep).trimmed(), "  unit:",
+           f.UNIT(jdep).trimmed());
+    writef(iocom.isout, "(1x,a,1x,f12.4,1x,a,1x,f12.4)", "depth from", f.dfirst, "to", f.dlast);
+    textline("step       :", f.steptext.trimmed().empty() ? "none given" : f.steptext.trimmed());
+    writef(iocom.isout, "(1x,a,1x,i6)", "rows in file      :", f.nrow);
+    writef(iocom.isout, "(1x,a,1x,i6)", "rows without depth:", f.ndrop);
+    if (f.hasbs) writef(iocom.isout, "(1x,a,1x,f10.4,1x,a)", "bit size BS:", f.bs, f.bsunit.trimmed());
+    menutail();
+}
+
+void readlas1(int& ierr, std::string_view fname, int unit, fstr_array_ref namvar, int nvar,
+              int* jcurve, const int* jcol, float* data, fstr_array_ref namcol, int& nlines,
+              int& ncolused, int maxlines, int maxcols) {
+    ierr = 1;
+    const lasfile_t& f = lasfile;
+    nvar = std::clamp(nvar, 0, MAXVARLAS);
+    farr<double, MAXVARLAS> factor;
+    factor.fill(0.0);
+    int kdep = 0;
+    for (int k = 1; k <= nvar; ++k) {
+        if (kdep == 0 && las_kind_of(namvar.sv(k)) == las_kind::depth) kdep = k;
+        if (jcurve[k - 1] == 0) jcurve[k - 1] = las_alias(namvar.sv(k));
+    }
+
+    // A unit the reader doesn't know: the user says what it is worth.
+    auto decide = [&](int k) {
+        const int j = jcurve[k - 1];
+        factor(k) = 0.0;
+        if (j == 0) return;
+        const las_kind kind = las_kind_of(namvar.sv(k));
+        double fac = las_factor(kind, f.UNIT(j).sv());
+        if (fac == 0.0) {
+            warninghead(VB_READLAS1);
+            writef(iocom.isout, "(5(1x,a))", "UNIT", f.UNIT(j).trimmed().empty() ? "(none)"
+                                                      : f.UNIT(j).trimmed(),
+                   "OF CURVE", f.MNEM(j).trimmed(), "NOT KNOWN");
+            writef(iocom.isout, "(5(1x,a))", "variable", trimmed(namvar.sv(k)), "is read in",
+                   las_own_unit(kind));
+            warningtail00();
+            float x = 1.0f;
+            int ie = 0;
+            inrealdef(x, "factor from " + std::string(f.UNIT(j).trimmed()) + " to " +
+                             std::string(las_own_unit(kind)),
+                      1.0f, ie);
+            fac = x;
+        }
+        factor(k) = fac;
+    };
+    for (int k = 1; k <= nvar; ++k) decide(k);
+
+    float zlo = -ALL, zhi = ALL;
+    int ndec = 1, nin = 0, line = 0;
+    fstr<80> reason;
+    auto fdep = [&] { return kdep != 0 ? factor(kdep) : 1.0; };
+    auto jdep = [&] { return kdep != 0 ? jcurve[kdep - 1] : f.jdep; };
+    auto rescan = [&] { return las_scan(unit, jdep(), fdep(), zlo, zhi, nin, line, reason); };
+    auto full_range = [&] {
+        const float a = float(f.dmin * fdep()), b = float(f.dmax * fdep());
+        zlo = std::min(a, b);
+        zhi = std::max(a, b);
+        nin = f.nrow - f.ndrop;
+    };
+    if (jdep() == 0 || rescan() != 0) {
+        if (jdep() == 0) {
+            line = f.cline;
+            reason = "NO DEPTH CURVE: DEPT, DEPTH OR MD";
+        }
+        line_reason(VB_READLAS1, fname, line, reason.sv());
+        unit_close(unit);
+        textline("input file", trimmed(fname), "closed");
+        errortail00();
+        return;
+    }
+    full_range();
+    auto nread = [&] { return (nin + ndec - 1) / ndec; };
+    auto too_many = [&] {
+        warninghead(VB_READLAS1);
+        writef(iocom.isout, "(1x,a,1x,i6)", "DEPTH STEPS TO READ:", nread());
+        writef(iocom.isout, "(1x,a,1x,i6)", "THE STORE HOLDS   :", maxlines);
+        textline("==> CHOOSE A DEPTH INTERVAL AND/OR");
+        textline("    A DECIMATION: COMMAND 300");
+        warningtail00();
+    };
+    if (nread() > maxlines) too_many();
+
+    for (;;) {
+        submenuhead(VB_READLAS1);
+        textline("          VARIABLE  <--  LAS CURVE");
+        textline(DASHED);
+        textline("|nb| variable |nb |  curve   |  unit  |   conversion   |");
+        textline("|--|----------|---|----------|--------|----------------|");
+        for (int k = 1; k <= nvar; ++k) {
+            const int j = jcurve[k - 1];
+            std::string conv;
+            const std::string_view own = las_own_unit(las_kind_of(namvar.sv(k)));
+            if (j != 0 && factor(k) == 1.0)
+                conv = std::string(own);
+            else if (j != 0)
+                conv = "x" + std::string(trimmed(formatf("(g12.5)", factor(k)))) + " -> " +
+                       std::string(own);
+            writef(iocom.isout, "(1x,'|',i2,'|',a10,'|',i3,'|',a10,'|',a8,'|',a16,'|')", k,
+                   namvar.sv(k), j, j != 0 ? f.MNEM(j).sv() : "none",
+                   j != 0 ? f.UNIT(j).sv() : "", conv);
+        }
+        textline("Command to pick a curve: variable nb");
+        textline(DASHED);
+        writef(iocom.isout, "(2(1x,a,1x,i6))", "rows in file  :", f.nrow, "without depth:",
+               f.ndrop);
+        writef(iocom.isout, "(1x,a,1x,f12.4,1x,a,1x,f12.4,1x,a)", "depth interval:", zlo, "to",
+               zhi, "m");
+        writef(iocom.isout, "(1x,a,1x,i6)", "keep one row in:", ndec);
+        writef(iocom.isout, "(2(1x,a,1x,i6))", "rows to read  :", nread(), "at most", maxlines);
+        textline(DASHED);
+        textline("DEPTH INTERVAL, DECIMATION ......300");
+        textline("CURVES OK => READ ..............1000");
+        textline("EXIT WITHOUT READING .............99");
+        menutail();
+        int choice = 1000, ie = 0;
+        inintegdef(choice, "your choice", 1000, ie);
+
+        if (choice >= 1 && choice <= nvar) {
+            curve_list();
+            const int old = jcurve[choice - 1];
+            const double oldf = factor(choice);
+            int j = old;
+            inintegvindef(j, "curve nb for " + std::string(trimmed(namvar.sv(choice))), old, 0,
+                          f.ncurve, ie);
+            if (choice == kdep && j == 0) {
+                warninghead(VB_READLAS1);
+                textline("THE DEPTH NEEDS A CURVE");
+                textline("==> NO ACTION");
+                warningtail00();
+                continue;
+            }
+            jcurve[choice - 1] = j;
+            decide(choice);
+            if (choice == kdep) {
+                zlo = -ALL;
+                zhi = ALL;
+                if (rescan() != 0) {
+                    line_reason(VB_READLAS1, fname, line, reason.sv());
+                    textline("==> DEPTH CURVE KEPT:", f.MNEM(old).trimmed());
+                    errortail00();
+                    jcurve[choice - 1] = old;
+                    factor(choice) = oldf;
+                    rescan();
+                }
+                full_range();
+                ndec = 1;
+            }
+        } else if (choice == 300) {
+            float top = zlo, bot = zhi;
+            inrealdef(top, "top of the depth interval, m", top, ie);
+            inrealdef(bot, "bottom of the depth interval, m", bot, ie);
+            zlo = std::min(top, bot);
+            zhi = std::max(top, bot);
+            rescan();
+            const int fit = std::max(1, (nin + maxlines - 1) / maxlines);
+            inintegvindef(ndec, "keep one row in", std::max(ndec, fit), 1, 1000000, ie);
+        } else if (choice == 1000) {
+            int missing = 0;
+            for (int k = nvar; k >= 1; --k)
+                if (jcurve[k - 1] == 0) missing = k;
+            if (missing != 0) {
+                warninghead(VB_READLAS1);
+                textline("NO CURVE FOR VARIABLE", trimmed(namvar.sv(missing)));
+                textline("==> PICK ONE BY ITS NB");
+                warningtail00();
+                continue;
+            }
+            if (nread() > maxlines) {
+                too_many();
+                continue;
+            }
+            if (nread() == 0) {
+                warninghead(VB_READLAS1);
+                textline("NO DEPTH STEP IN THE INTERVAL");
+                warningtail00();
+                continue;
+            }
+            farr<int, MAXVARLAS> jc;
+            ncolused = 0;
+            for (int k = 1; k <= nvar; ++k) {
+                jc(k) = std::clamp(jcol[k - 1], 1, maxcols);
+                ncolused = std::max(ncolused, jc(k));
+            }
+            int nbad = 0;
+            las_read(unit, jdep(), fdep(), zlo, zhi, ndec, nvar, jcurve, factor.data(), jc.data(),
+                     data, maxlines, nlines, nbad);
+            for (int c = 1; c <= maxcols; ++c) rrio::numbered_name(namcol(c), "Nodata.", c);
+            for (int k = 1; k <= nvar; ++k) namcol(jc(k)).assign(f.MNEM(jcurve[k - 1]).trimmed());
+            unit_close(unit);
+            submenuhead(VB_READLAS1);
+            writef(iocom.isout, "(1x,a,1x,i6)", "rows in file             :", f.nrow);
+            writef(iocom.isout, "(1x,a,1x,i6)", "rows read                :", nlines);
+            writef(iocom.isout, "(1x,a,1x,i6)", "left out: interval, step :",
+                   f.nrow - f.ndrop - nlines);
+            writef(iocom.isout, "(1x,a,1x,i6)", "dropped: no depth        :", f.ndrop);
+            writef(iocom.isout, "(1x,a,1x,i6)", "NULL or unreadable values:", nbad);
+            textline("input file", trimmed(fname), "closed");
+            menutail();
+            ierr = 0;
+            return;
+        } else if (choice == 99) {
+            unit_close(unit);
+            submenuhead(VB_READLAS1);
+            textline("EXITING WITHOUT READING DATA FILE");
+            textline("input file", trimmed(fname), "closed");
+            menutail();
+            return;
+        }
+    }
+}
