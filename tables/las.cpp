@@ -108,7 +108,7 @@ bool split_item(std::string_view l, header_item& it) {
         it.value = trim(rest.substr(0, colon));
         it.descr = trim(rest.substr(colon + 1));
     }
-    return !it.mnem.empty();
+    return true;
 }
 
 // A number as written in a data line; NaN for anything else.
@@ -120,8 +120,16 @@ double number(std::string_view t) {
     return v;
 }
 
-// The values of one depth step, NULL and unreadable ones as NaN.
+// The values of one depth step, NULL and unreadable ones as NaN; only the
+// curves a pass uses are converted.
 farr<double, MAXLASCURVE> V;
+farr<bool, MAXLASCURVE> USED;
+
+void use_only(int n, const int* jcurve) {
+    USED.fill(false);
+    for (int k = 0; k < n; ++k)
+        if (jcurve[k] > 0) USED(jcurve[k]) = true;
+}
 
 // Goes through the data section from the line after the ~A head, calling
 // on_row(first line of the step) for each depth step with its values in V.
@@ -151,9 +159,11 @@ int las_rows(las_lines& src, int& line, fstr_ref reason, F on_row) {
             }
             ++k;
             if (k <= n) {
-                double v = number(l.substr(p, e - p));
-                if (f.hasnull && v == f.null) v = NaN;
-                V(k) = v;
+                if (USED(k)) {
+                    double v = number(l.substr(p, e - p));
+                    if (f.hasnull && v == f.null) v = NaN;
+                    V(k) = v;
+                }
             } else if (f.wrapped) {
                 line = src.line;
                 reason.assign("WRAPPED STEP OF LINE " + std::to_string(rowline) +
@@ -280,7 +290,8 @@ int las_header(int unit, int& line, fstr_ref reason) {
             }
             continue;
         }
-        if (!split_item(l, it)) continue;
+        // A curve without a name still has its column in ~A.
+        if (!split_item(l, it) || (it.mnem.empty() && section != 'C')) continue;
         if (section == 'V') {
             if (same_word(it.mnem, "VERS")) f.vers.assign(it.value);
             if (same_word(it.mnem, "WRAP")) f.wrapped = same_word(it.value, "YES");
@@ -369,6 +380,7 @@ int las_scan(int unit, int jdep, double fdep, float zlo, float zhi, int& nin, in
     nin = 0;
     las_lines src(unit);
     to_data(src);
+    use_only(1, &jdep);
     int dir = 0;
     double prev = NaN;
     const int e = las_rows(src, line, reason, [&](int rowline) {
@@ -411,6 +423,7 @@ void las_read(int unit, int jdep, double fdep, float zlo, float zhi, int ndec, i
     nlines = nbad = 0;
     las_lines src(unit);
     to_data(src);
+    use_only(nvar, jcurve);
     int line = 0, seen = 0;
     fstr<80> reason;
     las_rows(src, line, reason, [&](int) {

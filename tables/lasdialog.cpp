@@ -69,7 +69,8 @@ void lasopen1(int& ierr, std::string_view fname, int unit) {
 
     submenuhead(VB_LASOPEN1);
     textline("LAS FILE:", trimmed(fname));
-    writef(iocom.isout, "(5(1x,a))", "LAS version:", f.vers.trimmed(), "  wrapped:",
+    writef(iocom.isout, "(5(1x,a))", "LAS version:",
+           f.vers.trimmed().empty() ? "none given" : f.vers.trimmed(), "  wrapped:",
            f.wrapped ? "YES" : "NO");
     textline("well name  :", f.well.trimmed().empty() ? "none given" : f.well.trimmed());
     textline("NULL value :", f.hasnull ? f.nulltext.trimmed() : "none given");
@@ -138,7 +139,8 @@ void readlas1(int& ierr, std::string_view fname, int unit, fstr_array_ref namvar
         zhi = std::max(a, b);
         nin = f.nrow - f.ndrop;
     };
-    if (jdep() == 0 || rescan() != 0) {
+    // lasopen1 has checked the file with the depth curve found by its name.
+    if (jdep() == 0 || (jdep() != f.jdep && rescan() != 0)) {
         if (jdep() == 0) {
             line = f.cline;
             reason = "NO DEPTH CURVE: DEPT, DEPTH OR MD";
