@@ -79,7 +79,8 @@ void lasopen1(int& ierr, std::string_view fname, int unit) {
     textline(DASHED);
     writef(iocom.isout, "(5(1x,a))", "depth curve:", f.MNEM(jdep).trimmed(), "  unit:",
            f.UNIT(jdep).trimmed());
-    writef(iocom.isout, "(1x,a,1x,f12.4,1x,a,1x,f12.4)", "depth from", f.dfirst, "to", f.dlast);
+    writef(iocom.isout, "(1x,a,1x,f12.4,1x,a,1x,f12.4,1x,a)", "depth from", f.dfirst, "to",
+           f.dlast, f.UNIT(jdep).trimmed());
     textline("step       :", f.steptext.trimmed().empty() ? "none given" : f.steptext.trimmed());
     writef(iocom.isout, "(1x,a,1x,i6)", "rows in file      :", f.nrow);
     writef(iocom.isout, "(1x,a,1x,i6)", "rows without depth:", f.ndrop);

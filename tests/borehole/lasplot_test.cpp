@@ -1,4 +1,5 @@
-// The sample well read from its LAS file draws the pages of its table.
+// The sample well read from its LAS file, in feet and inches, holds the
+// values of its table and draws the same pages.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -21,6 +22,8 @@
 namespace {
 
 struct LasPages : WellDialogue {
+    std::vector<std::vector<float>> values;  // RWD1 columns 1 to 7 of each read
+
     void SetUp() override {
         WellDialogue::SetUp();
         use_fake_platform();
@@ -46,6 +49,8 @@ struct LasPages : WellDialogue {
         logplot2(5);
         type(read_keys);
         run([] { readwell2(2); });
+        EXPECT_EQ(welldat.ndatwd, 1200);
+        values.emplace_back(welldat.RWD1.a, welldat.RWD1.a + MAXDATWD * 7);
         // The well's 8.5 in bit, which the LAS file's BS has set already.
         EXPECT_EQ(std::exchange(wellpara.bitsize, 21.59f), las ? 21.59f : 25.0825f);
         wellpara.ztop = 1800.f;
@@ -83,6 +88,12 @@ TEST_F(LasPages, TheLasFileDrawsThePagesOfItsTable) {
     const auto table = pages({"1000", sample("well200.txt"), "99", "99", "1000", "99"}, false);
     const auto las = pages({"1000", sample("well200.las"), "", "", "", "99"}, true);
     EXPECT_GS_RENDERS("log.ps");
+    EXPECT_EQ(current_id(), 210);  // 200 as offered, extended by the log menu
+    EXPECT_EQ(welldat.titlewd.trimmed(), "SYNTHETIC WELL B");
+    // Depths were written in feet, calipers in inches, with 4 decimals.
+    const float tol[] = {2e-4f, 0.f, 2.5e-4f, 2.5e-4f, 0.f, 0.f, 0.f};
+    for (std::size_t k = 0; k < values[0].size(); ++k)
+        ASSERT_NEAR(values[1][k], values[0][k], tol[k / MAXDATWD]) << "row " << k % MAXDATWD + 1;
     ASSERT_EQ(table.size(), 2u);
     ASSERT_EQ(las.size(), 2u);
     for (int p = 0; p < 2; ++p) {

@@ -1,5 +1,5 @@
 // LAS files through command 100: the quirks of real files, the broken
-// ones, the dialogue, and the sample well read as a table and as LAS.
+// ones, and the dialogue.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -125,21 +125,6 @@ TEST_F(LasReader, ReadsTheQuirksOfRealFiles) {
     unit_close(12);
 }
 
-TEST_F(LasReader, KnowsTheUnitsOfTheLoggingCompanies) {
-    struct {
-        las_kind kind;
-        const char* unit;
-        double factor;
-    } cases[] = {{las_kind::depth, "F", 0.3048},     {las_kind::depth, "ft", 0.3048},
-                 {las_kind::depth, "M", 1.0},        {las_kind::depth, "S", 0.0},
-                 {las_kind::diameter, "in", 2.54},   {las_kind::diameter, "MM", 0.1},
-                 {las_kind::diameter, "M", 100.0},   {las_kind::diameter, "CM", 1.0},
-                 {las_kind::diameter, "DEG", 0.0},   {las_kind::angle, "dega", 1.0},
-                 {las_kind::angle, "RAD", 57.295779513082323},
-                 {las_kind::angle, "", 0.0}};
-    for (const auto& c : cases) EXPECT_DOUBLE_EQ(las_factor(c.kind, c.unit), c.factor) << c.unit;
-}
-
 // ---------------------------------------------------------------------------
 
 struct ReadLas : WellDialogue {
@@ -166,7 +151,7 @@ TEST_F(ReadLas, TheDialogueShowsTheFileTheCurvesAndWhatWasRead) {
                        "   1 DEPT       FT       2 GR         GAPI     3 P1AZ       DEG   ",
                        "   4 C1         IN       5 C2         MM    ",
                        " -------------------------------------------",
-                       " depth curve: DEPT   unit: FT", " depth from    1000.0000 to    1001.5000",
+                       " depth curve: DEPT   unit: FT", " depth from    1000.0000 to    1001.5000 FT",
                        " step       : 0.5", " rows in file      :      4",
                        " rows without depth:      0", " bit size BS:     8.5000 IN",
                        " @@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@",
@@ -260,27 +245,6 @@ TEST_F(ReadLas, MoreStepsThanTheStoreHoldsAreReadByIntervalAndDecimation) {
     EXPECT_EQ(welldat.RWD1(2, 1), 1002.f);
     EXPECT_EQ(welldat.RWD1(2, 2), float(902 % 7));
     EXPECT_EQ(frame(" rows in file             :  20000", 4)[3], " dropped: no depth        :      0");
-}
-
-// The sample well as a table and as a LAS file in feet and inches.
-TEST_F(ReadLas, TheSampleWellReadsAsItsTable) {
-    read({"1000", sample("well200.txt"), "99", "99", "1000", "99"});
-    ASSERT_EQ(welldat.ndatwd, 1200);
-    std::vector<float> table(welldat.RWD1.a, welldat.RWD1.a + MAXDATWD * 7);
-    clear();
-    read({"1000", sample("well200.las"), "", "", "", "99"});
-    ASSERT_EQ(current_id(), 200);
-    ASSERT_EQ(welldat.ndatwd, 1200);
-    EXPECT_GT(find(" LAS version: 2.0   wrapped: YES"), 0);
-    // Depths were written in feet, calipers in inches, with 4 decimals.
-    const float tol[] = {2e-4f, 0.f, 2.5e-4f, 2.5e-4f, 0.f, 0.f, 0.f};
-    for (int j = 1; j <= 7; ++j)
-        for (int i = 1; i <= 1200; ++i)
-            ASSERT_NEAR(welldat.RWD1(i, j), table[std::size_t((j - 1) * MAXDATWD + i - 1)],
-                        tol[j - 1])
-                << "row " << i << " column " << j;
-    EXPECT_FLOAT_EQ(wellpara.bitsize, 21.59f);
-    EXPECT_EQ(welldat.titlewd.trimmed(), "SYNTHETIC WELL B");
 }
 
 }  // namespace
