@@ -6,6 +6,7 @@
 
 #include "shell/format.h"
 #include "shell/frames.h"
+#include "shell/menus.h"
 #include "shell/prompts.h"
 #include "shell/sio.h"
 #include "shell/textlen.h"
@@ -74,16 +75,16 @@ void lasopen1(int& ierr, std::string_view fname, int unit) {
            f.wrapped ? "YES" : "NO");
     textline("well name  :", f.well.trimmed().empty() ? "none given" : f.well.trimmed());
     textline("NULL value :", f.hasnull ? f.nulltext.trimmed() : "none given");
-    writef(iocom.isout, "(1x,a,1x,i6)", "curves     :", f.ncurve);
+    intline("curves     :", f.ncurve);
     curve_list();
-    textline(DASHED);
+    menurule();
     writef(iocom.isout, "(5(1x,a))", "depth curve:", f.MNEM(jdep).trimmed(), "  unit:",
            f.UNIT(jdep).trimmed());
     writef(iocom.isout, "(1x,a,1x,f12.4,1x,a,1x,f12.4,1x,a)", "depth from", f.dfirst, "to",
            f.dlast, f.UNIT(jdep).trimmed());
     textline("step       :", f.steptext.trimmed().empty() ? "none given" : f.steptext.trimmed());
-    writef(iocom.isout, "(1x,a,1x,i6)", "rows in file      :", f.nrow);
-    writef(iocom.isout, "(1x,a,1x,i6)", "rows without depth:", f.ndrop);
+    intline("rows in file      :", f.nrow);
+    intline("rows without depth:", f.ndrop);
     if (f.hasbs) writef(iocom.isout, "(1x,a,1x,f10.4,1x,a)", "bit size BS:", f.bs, f.bsunit.trimmed());
     menutail();
 }
@@ -156,8 +157,8 @@ void readlas1(int& ierr, std::string_view fname, int unit, fstr_array_ref namvar
     auto nread = [&] { return (nin + ndec - 1) / ndec; };
     auto too_many = [&] {
         warninghead(VB_READLAS1);
-        writef(iocom.isout, "(1x,a,1x,i6)", "DEPTH STEPS TO READ:", nread());
-        writef(iocom.isout, "(1x,a,1x,i6)", "THE STORE HOLDS   :", maxlines);
+        intline("DEPTH STEPS TO READ:", nread());
+        intline("THE STORE HOLDS   :", maxlines);
         textline("==> CHOOSE A DEPTH INTERVAL AND/OR");
         textline("    A DECIMATION: COMMAND 300");
         warningtail00();
@@ -167,7 +168,7 @@ void readlas1(int& ierr, std::string_view fname, int unit, fstr_array_ref namvar
     for (;;) {
         submenuhead(VB_READLAS1);
         textline("          VARIABLE  <--  LAS CURVE");
-        textline(DASHED);
+        menurule();
         textline("|nb| variable |nb |  curve   |  unit  |   conversion   |");
         textline("|--|----------|---|----------|--------|----------------|");
         for (int k = 1; k <= nvar; ++k) {
@@ -184,20 +185,19 @@ void readlas1(int& ierr, std::string_view fname, int unit, fstr_array_ref namvar
                    j != 0 ? f.UNIT(j).sv() : "", conv);
         }
         textline("Command to pick a curve: variable nb");
-        textline(DASHED);
+        menurule();
         writef(iocom.isout, "(2(1x,a,1x,i6))", "rows in file  :", f.nrow, "without depth:",
                f.ndrop);
         writef(iocom.isout, "(1x,a,1x,f12.4,1x,a,1x,f12.4,1x,a)", "depth interval:", zlo, "to",
                zhi, "m");
-        writef(iocom.isout, "(1x,a,1x,i6)", "keep one row in:", ndec);
+        intline("keep one row in:", ndec);
         writef(iocom.isout, "(2(1x,a,1x,i6))", "rows to read  :", nread(), "at most", maxlines);
-        textline(DASHED);
+        menurule();
         textline("DEPTH INTERVAL, DECIMATION ......300");
         textline("CURVES OK => READ ..............1000");
         textline("EXIT WITHOUT READING .............99");
-        menutail();
-        int choice = 1000, ie = 0;
-        inintegdef(choice, "your choice", 1000, ie);
+        const int choice = menuchoice(1000);
+        int ie = 0;
 
         if (choice >= 1 && choice <= nvar) {
             curve_list();
@@ -272,12 +272,11 @@ void readlas1(int& ierr, std::string_view fname, int unit, fstr_array_ref namvar
             for (int k = 1; k <= nvar; ++k) namcol(jc(k)).assign(f.MNEM(jcurve[k - 1]).trimmed());
             unit_close(unit);
             submenuhead(VB_READLAS1);
-            writef(iocom.isout, "(1x,a,1x,i6)", "rows in file             :", f.nrow);
-            writef(iocom.isout, "(1x,a,1x,i6)", "rows read                :", nlines);
-            writef(iocom.isout, "(1x,a,1x,i6)", "left out: interval, step :",
-                   f.nrow - f.ndrop - nlines);
-            writef(iocom.isout, "(1x,a,1x,i6)", "dropped: no depth        :", f.ndrop);
-            writef(iocom.isout, "(1x,a,1x,i6)", "NULL or unreadable values:", nbad);
+            intline("rows in file             :", f.nrow);
+            intline("rows read                :", nlines);
+            intline("left out: interval, step :", f.nrow - f.ndrop - nlines);
+            intline("dropped: no depth        :", f.ndrop);
+            intline("NULL or unreadable values:", nbad);
             textline("input file", trimmed(fname), "closed");
             menutail();
             ierr = 0;
