@@ -93,6 +93,12 @@ void expect_rows(const std::vector<std::vector<float>>& got,
 
 struct LasReader : Dialogue {};
 
+std::string utf16le(const std::string& text) {
+    std::string out = "\xFF\xFE";
+    for (char c : text) out += {c, '\0'};
+    return out;
+}
+
 TEST_F(LasReader, ReadsTheQuirksOfRealFiles) {
     const float nan = NAN;
     struct {
@@ -115,6 +121,11 @@ TEST_F(LasReader, ReadsTheQuirksOfRealFiles) {
          "20.5 21.0 'top zone'\r20.0 22.0 \"base zone\"\r",
          {"Depth", "CAL"},
          {{20.5f, 21.f}, {20.f, 22.f}}},
+        {"UTF-16, a curve without a name",
+         utf16le("~V\r\nVERS. 2.0:\r\nWRAP. NO:\r\n~C\r\nDEPT.M:\r\n .OHMM:\r\nCALI.IN:\r\n~A\r\n"
+                 "1.0 5 8.5\r\n"),
+         {"Depth", "CAL"},
+         {{1.f, 21.59f}}},
     };
     for (const auto& c : cases) expect_rows(read_direct(c.text, c.vars), c.rows, c.what);
 
