@@ -424,6 +424,7 @@ void las_read(int unit, int jdep, double fdep, float zlo, float zhi, int ndec, i
     las_lines src(unit);
     to_data(src);
     use_only(nvar, jcurve);
+    if (jdep > 0) USED(jdep) = true;
     int line = 0, seen = 0;
     fstr<80> reason;
     las_rows(src, line, reason, [&](int) {
