@@ -49,6 +49,50 @@ def table_text(title, names, rows):
     return "\n".join(lines) + "\n"
 
 
+FT = 0.3048  # metres in a foot
+IN = 2.54    # centimetres in an inch
+
+
+def las_text(well, bit_in, rows):
+    """A LAS 2.0 file of the rows of a type 200 well, as logging companies
+    deliver them: depth in feet, calipers in inches, wrapped, each depth step
+    on three lines (the depth alone, then three values, then three)."""
+    def ft(z):
+        return "%.4f" % (z / FT)
+    lines = [
+        "# Written by data/generate.py from well200.txt",
+        "~VERSION INFORMATION",
+        " VERS.                2.0 :   CWLS LOG ASCII STANDARD -VERSION 2.0",
+        " WRAP.                YES :   MULTIPLE LINES PER DEPTH STEP",
+        "~WELL INFORMATION",
+        "#MNEM.UNIT      DATA                 DESCRIPTION",
+        " STRT.F         %-20s :START DEPTH" % ft(rows[0][0]),
+        " STOP.F         %-20s :STOP DEPTH" % ft(rows[-1][0]),
+        " STEP.F         %-20s :STEP" % "0.5000",
+        " NULL.          %-20s :NULL VALUE" % "-999.25",
+        " COMP.          %-20s :COMPANY" % "TARNOLIX SAMPLES",
+        " WELL.          %-20s :WELL" % well,
+        " SRVC.          %-20s :SERVICE COMPANY" % "SYNTHETIC LOGGING",
+        "~CURVE INFORMATION",
+        "#MNEM.UNIT      API CODE             DESCRIPTION",
+        " DEPT.F                              :MEASURED DEPTH",
+        " P1AZ.DEG                            :PAD 1 AZIMUTH",
+        " C1  .IN                             :CALIPER 1-3",
+        " C2  .IN                             :CALIPER 2-4",
+        " RB  .DEG                            :RELATIVE BEARING",
+        " DEVI.DEG                            :HOLE DEVIATION",
+        " HAZI.DEG                            :HOLE AZIMUTH",
+        "~PARAMETER INFORMATION",
+        " BS  .IN        %-20s :BIT SIZE" % ("%.4f" % bit_in),
+        "~A  DEPT",
+    ]
+    for r in rows:
+        lines.append(" " + ft(r[0]))
+        lines.append(" %12.2f %12.4f %12.4f" % (r[1], r[2] / IN, r[3] / IN))
+        lines.append(" %12.2f %12.2f %12.2f" % (r[4], r[5], r[6]))
+    return "\n".join(lines) + "\n"
+
+
 def write(outdir, name, text):
     with open(os.path.join(outdir, name), "w", newline="\n") as f:
         f.write(text)
@@ -186,6 +230,7 @@ def main(outdir):
                       (901, 1200, "gauge", ("rot", 8.0))]})
     write(outdir, "well200.txt", table_text(
         "Synthetic well B, 8.5 in bit, type 200", NAMES_210[:7], [r[:7] for r in rows]))
+    write(outdir, "well200.las", las_text("SYNTHETIC WELL B", BIT_85 / IN, rows))
 
     # Type 100 and 110: a vertical well drilled with an 8.5 in bit.
     vertical = {

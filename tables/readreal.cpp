@@ -87,7 +87,7 @@ void readreal6(int& ierr, fstr_ref title, fstr_ref fname, std::string_view label
                int& nlinedisp, int& iskip, int& ititle, int& iheader, int* jcola, int* jfcola,
                fstr_array_ref namvara, int& nvar, int maxvar, float* data,
                fstr_array_ref namrcol, int& nlines, int& ncolused, int maxlines, int maxcols,
-               int ilevel, int inter) {
+               int ilevel, int inter, bool (*own_kind)(int unit)) {
     ierr = 0;
     if (mode_resets(inter)) {
         submenuhead(VB_READREAL6);
@@ -102,7 +102,13 @@ void readreal6(int& ierr, fstr_ref title, fstr_ref fname, std::string_view label
 
     bool open_file = true;
     for (;;) {
-        if (open_file) opef2(fname, label, unit, "old", even ? 0 : 1);
+        if (open_file) {
+            opef2(fname, label, unit, "old", even ? 0 : 1);
+            if (own_kind && own_kind(unit)) {
+                ierr = 3;
+                return;
+            }
+        }
         open_file = false;
 
         // The stages; the first to fail names itself in the recovery frame.

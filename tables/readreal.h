@@ -53,11 +53,14 @@ extern readrealsetup_t readrealsetup;
 //
 // ierr: 0 read, 1 not read. The file name is the starting value and comes
 // back without its directory. jcola/jfcola: jcola[k-1] is JCOLA(k).
+// A caller that reads files of another kind too passes own_kind: a file it
+// recognises as soon as it is opened is left open on the unit, untouched,
+// with ierr 3, for the caller to read.
 void readreal6(int& ierr, fstr_ref title, fstr_ref fname, std::string_view label, int unit,
                int& nlinedisp, int& iskip, int& ititle, int& iheader, int* jcola, int* jfcola,
                fstr_array_ref namvara, int& nvar, int maxvar, float* data,
                fstr_array_ref namrcol, int& nlines, int& ncolused, int maxlines, int maxcols,
-               int ilevel, int inter);
+               int ilevel, int inter, bool (*own_kind)(int unit) = nullptr);
 
 // The stages of readreal6.
 void sfheader1(int& ierr, int& nlinedisp, int& iskip, int& ititle, int& iheader,

@@ -8,8 +8,11 @@
 #include "shell/prompts.h"
 #include "shell/sio.h"
 #include "shell/textlen.h"
+#include "shell/units.h"
+#include "tables/las.h"
 #include "tables/readreal.h"
 #include "well/welldat.h"
+#include "well/wellpara.h"
 
 namespace {
 
@@ -45,9 +48,65 @@ void read_summary() {
     textline(DASHED);
 }
 
+// The type a LAS file's curves allow, found by their names: the fullest of
+// the four-arm types, else the single caliper; else the pending one.
+int las_type(int pid) {
+    auto has = [](const char* v) { return las_alias(v) != 0; };
+    if (!has("Depth")) return pid;
+    if (has("P1Az") && has("C1") && has("C2")) {
+        const int az = has("AzCmax") ? 10 : 0;
+        return (has("RB") && has("DEVI") && has("HAZI") ? 200 : 100) + az;
+    }
+    return has("CAL") ? 300 : pid;
+}
+
+// A LAS file, left open on the unit by the column table reader: its
+// dialogue instead of the table's. The type the curves allow is offered
+// first, in the type menu of command 100. True if the file was read.
+bool read_las(int& pid, int& pidx) {
+    welldat_t& w = welldat;
+    int ierr = 0;
+    lasopen1(ierr, w.finwd.sv(), WELL_UNIT);
+    if (ierr != 0) return false;
+    pid = las_type(pid);
+    typeselect1(pidx, pid, "WELL", w.TYPWDNAM.data(), w.IDTYPWD.data(), w.imaxtypwd, 36, 1, 0);
+    // The file is open already: a change of type forgets the data, not its name.
+    const fstr<80> fin = w.finwd;
+    wdtype(pid, 1);
+    w.finwd = fin;
+    if (pid == 0) {
+        unit_close(WELL_UNIT);
+        return false;
+    }
+    farr<int, MAXVARWD> jcurve;
+    jcurve.fill(0);
+    readlas1(ierr, w.finwd.sv(), WELL_UNIT, w.NAMVAR, w.nvarwd, jcurve.data(), w.JCOL.data(),
+             w.RWD1.a, w.NAMCOL, w.ndatwd, w.ncolwd, MAXDATWD, MAXCOLWD);
+    if (ierr != 0) return false;
+    for (int k = 1; k <= w.nvarwd; ++k) w.JFCOL(k) = jcurve(k);
+    w.titlewd = lasfile.well.trimmed().empty() ? std::string_view("Untitled")
+                                                : lasfile.well.trimmed();
+
+    // The bit size the file gives, offered as the nominal hole size.
+    const double fbs = las_factor(las_kind::diameter, lasfile.bsunit.sv());
+    if (lasfile.hasbs && fbs != 0.0) {
+        const float bs = float(lasfile.bs * fbs);
+        submenuhead(VB_READWELL);
+        writef(iocom.isout, "(1x,a,1x,f10.4,1x,a,1x,f10.4,1x,a)", "bit size BS in the file:",
+               lasfile.bs, lasfile.bsunit.trimmed(), bs, "cm");
+        writef(iocom.isout, "(1x,a,1x,f10.4,1x,a)", "bitsize now            :", wellpara.bitsize,
+               "cm");
+        menutail();
+        bool set = true;
+        inlogicdef(set, "set bitsize from BS", true, ierr);
+        if (set) wellpara.bitsize = bs;
+    }
+    return true;
+}
+
 // Command 1000 of the menu: the type is set before the file is opened, so a
 // change of type forgets what was loaded even if the read then fails.
-void read_file(int& pid) {
+void read_file(int& pid, int& pidx) {
     welldat_t& w = welldat;
     wdtype(pid, 1);
 
@@ -57,7 +116,9 @@ void read_file(int& pid) {
     int ierr = 0;
     readreal6(ierr, w.titlewd, w.finwd, label, WELL_UNIT, layout.nlinedisp, layout.iskip,
               layout.ititle, layout.iheader, w.JCOL.data(), w.JFCOL.data(), w.NAMVAR, w.nvarwd,
-              MAXVARWD, w.RWD1.a, w.NAMCOL, w.ndatwd, w.ncolwd, MAXDATWD, MAXCOLWD, 1, 0);
+              MAXVARWD, w.RWD1.a, w.NAMCOL, w.ndatwd, w.ncolwd, MAXDATWD, MAXCOLWD, 1, 0,
+              las_detect);
+    if (ierr == 3) ierr = read_las(pid, pidx) ? 0 : 1;
     if (ierr != 0) {
         int none = 0;
         wdtype(none, 1);
@@ -129,7 +190,7 @@ void readwell2(int intera) {
             typeselect1(pidx, pid, "WELL", w.TYPWDNAM.data(), w.IDTYPWD.data(), w.imaxtypwd, 36,
                         1, 0);
         } else if (command == 1000) {
-            read_file(pid);
+            read_file(pid, pidx);
         } else {
             warninghead(VB_READWELL);
             textline("UNKNOWN ANSWER !");
