@@ -349,8 +349,8 @@ void logplot2(const int& intera) {
             if (!category)
                 log_azcm_tst_plot(icwork, icsize, icdc, icrb, itop, ibot, nsel, jcc, lrb, icmd);
         }
-        // Still to come: log_azcm_select_plot for 360 and 362 with lazc;
-        //   the full output for 500 with ldata.
+        // Still to come: log_azcm_select_plot for 360 and 362 with lazc.
+        if (ldata && icmd == 500) log_full_output();
     }
 
     ssymboltype(isymentry, 1);
