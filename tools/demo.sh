@@ -4,7 +4,9 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash tools/install_deps.sh
-cmake -S . -B build -G Ninja -DTARNOLIX_TESTS=OFF
+qt=OFF
+dpkg -s qtbase5-dev >/dev/null 2>&1 && qt=ON
+cmake -S . -B build -G Ninja -DTARNOLIX_TESTS=OFF -DTARNOLIX_QT=$qt
 cmake --build build -j "$(nproc)"
 rm -rf demo
 mkdir -p demo
@@ -19,3 +21,7 @@ echo "demo files in $(pwd):"
 echo "  log.ps       the three log pages (PostScript)"
 [ -f log.pdf ] && echo "  log.pdf      the same pages as PDF"
 echo "  console.log  the whole console dialogue"
+if [ -x ../build/tarnolix_window ]; then
+  echo
+  echo "the same program in a text window: cd demo && ../build/tarnolix_window"
+fi

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs the Debian packages the build, tests and demo need, if missing.
 set -euo pipefail
-pkgs=(g++ cmake ninja-build libgtest-dev libbenchmark-dev ghostscript gfortran python3 "$@")
+pkgs=(g++ cmake ninja-build libgtest-dev libbenchmark-dev ghostscript gfortran python3
+      qtbase5-dev fonts-dejavu-core "$@")
 missing=()
 for p in "${pkgs[@]}"; do
   dpkg -s "$p" >/dev/null 2>&1 || missing+=("$p")
