@@ -32,7 +32,7 @@ public:
     // give the polling its defined order; nothing here locks.
     std::atomic<bool> reading{false};
     std::atomic<bool> cancelled{false};
-    std::int64_t readunit = 0;
+    std::atomic<std::int64_t> readunit{0};
     QString readtext;  // written before reading is cleared
     std::atomic<bool> syncop{false};
 
