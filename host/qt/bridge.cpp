@@ -82,6 +82,9 @@ void ENGINE_QThread::run() {
         status = entry_();
         ZOR_stop();
     }
+    // The engine is over: a late terminate must not cut into the thread's
+    // own end, where a forced unwind aborts the process.
+    setTerminationEnabled(false);
     set_console(previous);
 }
 
