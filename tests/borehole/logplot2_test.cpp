@@ -100,7 +100,7 @@ TEST_F(LogMenu, ParameterCommandsAndTheirLinesInTheMenu) {
 
 TEST_F(LogMenu, EnteringExtendsTheTypeAndHoleParametersRedoTheComputationsOnce) {
     read("200");
-    menu({"320", "", "", "320", "", "50", "99", "320", "", "320", "", "500", "99"});
+    menu({"320", "", "", "320", "", "50", "99", "320", "", "320", "", "500", "99", "99"});
     EXPECT_EQ(lines(1, 5)[4], " CASE 2: Extending data type with AzCmax");
     EXPECT_GT(find(" | 8| AzCmax          |1| 8|AzCmax.cmptd   |"), 0);
     EXPECT_EQ(count(" Normalizing AzCmax "), 2);
