@@ -4,10 +4,12 @@
 
 #include "borehole/logplot2.h"
 #include "borehole/statplot.h"
+#include "borehole/wallplot2.h"
 #include "borehole/wellplot.h"
 #include "math/angles.h"
 #include "plot/attributes.h"
 #include "plot/pages.h"
+#include "projection/projection.h"
 #include "shell/cmdfile.h"
 #include "shell/console.h"
 #include "shell/format.h"
@@ -80,12 +82,12 @@ void tarnolix_startup(bool banner) {
     int work = 2;
     swpinfo(work, 1);
     trigoset();
-    // sprojxyz(5) comes here.
+    sprojxyz(work, 5);
     splotattributes(5);
     swellplot(5);
     swellhst(5);
     swellparam(5);
-    // wallplot2(5) comes here.
+    wallplot2(5);
     logplot2(5);
     statplot(5);
     wdtype(work, 5);
@@ -114,6 +116,7 @@ void tarnolix_main() {
         case 1: writesio(iocom.isout); break;
         case 2: swpinfo(work, 2); break;
         case 13: swellplot(2); break;
+        case 14: sprojxyz(work, 2); break;
         case 5000: altsio2(cmdfile, command, 0); break;
         case 5100: moutputn(0); break;
         default: break;
@@ -130,6 +133,7 @@ void tarnolix_main() {
         if (command == 110) swellparam(0);
         if (command == 120) logplot2(0);
         if (command == 130) statplot(0);
+        if (command == 140) wallplot2(0);
         if (command == 9999) break;
         if (command == 999) {
             inintegdef(command, "999 to confirm quit", command, ierr);
