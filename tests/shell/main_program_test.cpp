@@ -174,6 +174,26 @@ TEST_F(MainMenu, QuitAndFastQuitCloseTheFileBeforeTheyEnd) {
     EXPECT_GS_RENDERS("well.ps");
 }
 
+// Projections reset after the angle constants and before the attributes,
+// the wall plot after the hole parameters and before the log analysis;
+// 14 and 140 reach them.
+TEST_F(MainMenu, ProjectionsAndWallPlotStartInTheirPlacesAndAnswer14And140) {
+    type({"14", "3", "1", "140", "", "99", "9999"});
+    EXPECT_EQ(run(), 0);
+    const int order[] = {find("  1 - DEFAULT PROJECTION TO: axonometric"),
+                         find(" INITIALIZING PLOT ATTRIBUTESS"),
+                         find(" INITIALIZING BOREHOLE PARAMETERS"),
+                         find(" INITIALIZING WALL PLOT PARAMETERS"),
+                         find(" INITIALIZING LOG PLOT PARAMETERS"), find(HEAD)};
+    for (int k = 1; k < 6; ++k) EXPECT_LT(order[k - 1], order[k]) << k;
+    EXPECT_GT(order[0], 0);
+    EXPECT_EQ(count("  TO: // z"), 1);
+    EXPECT_EQ(count("  // x into y,z plane .................1 "), 1);
+    EXPECT_EQ(count(" NO DATA !"), 1);
+    EXPECT_EQ(count(" PLOT .................................100"), 1);
+    EXPECT_EQ(passes(), 3);
+}
+
 // The real program on the terminal: standard input that ends is the end.
 TEST(TerminalProgram, FastQuitExitsZeroAndInputEndingAtThePromptDoesNot) {
     auto run_binary = [](const std::string& input) {
