@@ -227,18 +227,16 @@ void restore_attributes(attrs& old, int& linecolour) {
     ssymbolsize(old.symsize, 1);
 }
 
-// One section of rows from column offset o: polar (JRAD, JAZ) to X, Y with
-// Y counted clockwise, projected and drawn.
-void section_curve(int o, int n) {
-    welldat_t& w = welldat;
-    float* x = w.RWD1.col(JX) + o;
-    float* y = w.RWD1.col(JY) + o;
-    rt2xy(x, y, w.RWD1.col(JRAD) + o, w.RWD1.col(JAZ) + o, n);
+// The n rows from row j1: polar (JRAD, JAZ) to X, Y with Y counted
+// clockwise, projected and drawn.
+void section_curve(int j1, int n) {
+    auto& R = welldat.RWD1;
+    float* x = &R(j1, JX);
+    float* y = &R(j1, JY);
+    rt2xy(x, y, &R(j1, JRAD), &R(j1, JAZ), n);
     for (int i = 0; i < n; ++i) y[i] = -y[i];
-    float* px = w.RWD1.col(JPX) + o;
-    float* py = w.RWD1.col(JPY) + o;
-    projxyzn(px, py, x, y, w.RWD1.col(JZ) + o, n);
-    usline(px, py, n);
+    projxyzn(&R(j1, JPX), &R(j1, JPY), x, y, &R(j1, JZ), n);
+    usline(&R(j1, JPX), &R(j1, JPY), n);
 }
 
 // Two points at radii r1 and r2 on one azimuth (radians) and one Z,
@@ -271,7 +269,6 @@ void plot(bool ldata) {
     welldat_t& w = welldat;
     const wellpara_t& p = wellpara;
     const int jdep = w.JCOL(w.jdepth);
-    const float* depth = w.RWD1.col(jdep) - 1;  // depth[i] is row i
     int status = 0, i1 = 1, i2 = 1;
     inval2inind2(status, i1, i2, p.ztop, p.zbot, 1, w.ndatwd, w.RWD1.col(jdep), MAXDATWD, 0);
     if (status == 1 || status == 2) {
@@ -288,11 +285,8 @@ void plot(bool ldata) {
     const int n = i2 - i1 + 1;
     const float h = p.bitsize * 0.5f;
     const int jcal = w.JCOL(ws.icpers == 2 ? w.jc2 : w.jc1);
-    const float* cal = w.RWD1.col(jcal) - 1;
-    float* az = w.RWD1.col(JAZ) - 1;
-    float* z = w.RWD1.col(JZ) - 1;
-    int* loop = w.IWD1.col(ILOOP) - 1;
-    int* sat = w.IWD1.col(ISAT) - 1;
+    auto& R = w.RWD1;
+    auto& I = w.IWD1;
     const bool marks = ws.icsatw == 1 || ws.icsatw == 2;
     const int markkey = ws.icsatw == 1 ? 1 : 0;
 
@@ -305,22 +299,24 @@ void plot(bool ldata) {
     // one diameter), the half turn they came from, and Z.
     int colour = wellplot.jclrc1;
     if (ws.lcin || ws.lcout || ws.lcspike || ws.lcoutp) {
-        const float* p1az = w.RWD1.col(w.JCOL(w.jp1az)) - 1;
+        const int jp1az = w.JCOL(w.jp1az);
         const float turn = ws.icpers == 2 ? 90.0f : 0.0f;
         if (ws.icpers == 2) colour = wellplot.jclrc2;
         for (int i = i1; i <= i2; ++i) {
-            az[i] = p1az[i] + turn;
-            loop[i] = int(az[i] / 180.0f);
-            if (az[i] < 0.0f) loop[i] -= 1;
-            az[i] = az[i] - 180.0f * float(loop[i]) + ws.azshift;
-            z[i] = depth_to_z(depth[i]);
+            float& az = R(i, JAZ);
+            int& loop = I(i, ILOOP);
+            az = R(i, jp1az) + turn;
+            loop = int(az / 180.0f);
+            if (az < 0.0f) loop -= 1;
+            az = az - 180.0f * float(loop) + ws.azshift;
+            R(i, JZ) = depth_to_z(R(i, jdep));
         }
-        deg2rad(az + i1, az + i1, n);
+        deg2rad(&R(i1, JAZ), &R(i1, JAZ), n);
     }
 
     if (marks && (ws.lcout || ws.lcspike || ws.lcoutp)) {
         const float csat = ws.icpers == 2 ? p.c2sat : p.c1sat;
-        for (int i = i1; i <= i2; ++i) sat[i] = cal[i] >= csat ? 1 : 0;
+        for (int i = i1; i <= i2; ++i) I(i, ISAT) = R(i, jcal) >= csat ? 1 : 0;
     }
 
     attrs old;
@@ -331,29 +327,28 @@ void plot(bool ldata) {
         writef(iocom.isout, fmt_head, "index", "index", "depth", "depth", "loop");
         writef(iocom.isout, fmt_head, "initl", "final", "initl", "final", "type");
         line(DASHED);
-        float* radius = w.RWD1.col(JRAD) - 1;
         for (int j1 = i1; j1 <= i2;) {
             int j2 = j1;
-            while (j2 < i2 && loop[j2 + 1] == loop[j1]) ++j2;
+            while (j2 < i2 && I(j2 + 1, ILOOP) == I(j1, ILOOP)) ++j2;
             const int m = j2 - j1 + 1;
             if (iocom.LWITO(2))
                 writef(iocom.isout, "(1x, 2('|',i5), 2('|',f8.1),'|', a12,'|')", j1, j2,
-                       depth[j1], depth[j2], m == 1 ? "single point" : "regular");
+                       R(j1, jdep), R(j2, jdep), m == 1 ? "single point" : "regular");
             if (ws.lcin) {
                 // The arm's foot on the bit size hole.
-                for (int j = j1; j <= j2; ++j) radius[j] = h;
-                section_curve(j1 - 1, m);
+                for (int j = j1; j <= j2; ++j) R(j, JRAD) = h;
+                section_curve(j1, m);
             }
             if (ws.lcout) {
                 // The near arm is taken at the bit radius: the whole excess
                 // of the caliper goes to the far wall.
-                for (int j = j1; j <= j2; ++j) radius[j] = cal[j] - h;
-                section_curve(j1 - 1, m);
+                for (int j = j1; j <= j2; ++j) R(j, JRAD) = R(j, jcal) - h;
+                section_curve(j1, m);
                 if (marks) {
-                    float* px = w.RWD1.col(JPX) + j1 - 1;
-                    float* py = w.RWD1.col(JPY) + j1 - 1;
+                    float* px = &R(j1, JPX);
+                    float* py = &R(j1, JPY);
                     int nout = 0;
-                    extractxy(px, py, nout, px, py, sat + j1, m, markkey);
+                    extractxy(px, py, nout, px, py, &I(j1, ISAT), m, markkey);
                     if (nout > 0) ussymbol(px, py, nout);
                 }
             }
@@ -367,13 +362,14 @@ void plot(bool ldata) {
         curve_attributes(old, iwork, colour);
         farr<float, 2> px, py;
         for (int i = i1; i <= i2; ++i) {
-            radial_pair(px, py, cal[i] - h, h, az[i], z[i]);
+            radial_pair(px, py, R(i, jcal) - h, h, R(i, JAZ), R(i, JZ));
             if (!ws.lcspike) {
                 px(2) = px(1);
                 py(2) = py(1);
             }
             usline(px.data(), py.data(), 2);
-            if ((ws.icsatw == 1 && sat[i] == 1) || (ws.icsatw == 2 && sat[i] == 0))
+            const int s = I(i, ISAT);
+            if ((ws.icsatw == 1 && s == 1) || (ws.icsatw == 2 && s == 0))
                 ussymbol(px.data(), py.data(), 1);
         }
         restore_attributes(old, iwork);
@@ -386,7 +382,7 @@ void plot(bool ldata) {
         arcirclerad(xa, ya, NARC, 0.0f, 0.0f, h, rad(ws.azshift), rad(ws.azshift + 180.0f));
         for (int k = 0; k < NARC; ++k) ya[k] = -ya[k];
         for (int i = i1; i <= i2; i += ws.ibsinc) {
-            const float zc = depth_to_z(depth[i]);
+            const float zc = depth_to_z(R(i, jdep));
             for (int k = 0; k < NARC; ++k) za[k] = zc;
             projxyzn(w.RWD1.col(JX), w.RWD1.col(JY), xa, ya, za, NARC);
             usline(w.RWD1.col(JX), w.RWD1.col(JY), NARC);
