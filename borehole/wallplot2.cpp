@@ -13,6 +13,7 @@
 #include "plot/symbols.h"
 #include "projection/projection.h"
 #include "shell/format.h"
+#include "shell/menus.h"
 #include "shell/prompts.h"
 #include "shell/runinfo.h"
 #include "shell/sio.h"
@@ -56,12 +57,6 @@ wallsaved_t ws = WALL_DEFAULTS;
 
 const char* const SATNAME[3] = {"no", "saturated", "unsaturated"};
 
-void line(std::string_view s) { writef(iocom.isout, "(1x,a)", s); }
-void blockhead(std::string_view s) {
-    line(DASHED);
-    line(s);
-    line(DASHED);
-}
 void real_item(std::string_view s, float v) { writef(iocom.isout, "(2(1x,a,1x,f10.3))", s, v); }
 void int_item(std::string_view s, int v, std::string_view name = {}) {
     if (name.empty())
@@ -69,24 +64,23 @@ void int_item(std::string_view s, int v, std::string_view name = {}) {
     else
         writef(iocom.isout, "(1x,a,1x,i5,1x,a)", s, v, name);
 }
-void logic_item(std::string_view s, bool v) { writef(iocom.isout, "(1x,a,1x,l1)", s, v); }
 
 void menu() {
     welldat_t& w = welldat;
-    blockhead("PLOT PARAMS                       Command");
-    line("Open plot file ........................10");
-    logic_item("Landscape(T)/Portrait(F) ..............11", wellplot.llandscape);
-    line("Set local scaling .....................12");
-    line("Set plot and axes params ..............13");
-    line("Set projection ........................14");
-    line("Close plot file .......................20");
+    menublock("PLOT PARAMS                       Command");
+    textline("Open plot file ........................10");
+    flagline("Landscape(T)/Portrait(F) ..............11", wellplot.llandscape);
+    textline("Set local scaling .....................12");
+    textline("Set plot and axes params ..............13");
+    textline("Set projection ........................14");
+    textline("Close plot file .......................20");
     int ilist = 1;
     dat1astatus1("WELL", w.TYPWDNAM(w.itypwd).sv(), w.IDTYPWD(w.itypwd), w.finwd.sv(),
                  w.titlewd.sv(), w.ndatwd, MAXDATWD, w.NAMVAR, w.nvarwd, MAXVARWD, w.JCOL.data(),
                  w.NAMCOL, w.ncolwd, MAXCOLWD, ilist, 1);
     swellparam(10);
-    line("Change hole parameters .....50");
-    blockhead("PARAMETERS                        Command");
+    textline("Change hole parameters .....50");
+    menublock("PARAMETERS                        Command");
     real_item("Ztop for plot ........................800", ws.zplot0);
     real_item("depth axis increment .................801", ws.zincw);
     real_item("Zscale ...............................805", ws.zscalew);
@@ -95,23 +89,23 @@ void menu() {
     int_item("Csat activated ? .....................855", ws.icsatw,
              ws.icsatw >= 0 && ws.icsatw <= 2 ? SATNAME[ws.icsatw] : "");
     int_item("Bit size hole increment ..............860", ws.ibsinc);
-    logic_item("curve Ci in ..........................901", ws.lcin);
-    logic_item("curve Ci out .........................902", ws.lcout);
-    logic_item("Ci vectors ...........................903", ws.lcspike);
-    logic_item("Ci out points ........................904", ws.lcoutp);
-    logic_item("Drilled hole .........................905", ws.lbshole);
-    logic_item("Azimuth / Depth frame ................907", ws.lazframe);
-    line(DASHED);
-    line("PLOT .................................100");
-    line("EXIT ..................................99");
+    flagline("curve Ci in ..........................901", ws.lcin);
+    flagline("curve Ci out .........................902", ws.lcout);
+    flagline("Ci vectors ...........................903", ws.lcspike);
+    flagline("Ci out points ........................904", ws.lcoutp);
+    flagline("Drilled hole .........................905", ws.lbshole);
+    flagline("Azimuth / Depth frame ................907", ws.lazframe);
+    menurule();
+    textline("PLOT .................................100");
+    textline("EXIT ..................................99");
 }
 
 // Command 11.
 void orientation() {
-    line(DASHED);
-    line("N.B. Exchanging Landscape for Portrait ");
-    line("     will reset all subplots scaling");
-    line(DASHED);
+    menurule();
+    textline("N.B. Exchanging Landscape for Portrait ");
+    textline("     will reset all subplots scaling");
+    menurule();
     bool landscape = wellplot.llandscape;
     int ierr = 0;
     inlogicdef(landscape, "to use Landscape(1) or Portrait(0) A4", wellplot.llandscape, ierr);
@@ -123,7 +117,7 @@ void orientation() {
 
 // Command 12: the fixed scale of subplot 1.
 void localscaling() {
-    line("PERSPECTIVE PLOT SCALING");
+    textline("PERSPECTIVE PLOT SCALING");
     int one = 1;
     ssubplot(one, 1);
     float xcm0 = 0, ycm0 = 0, xu0 = 0, yu0 = 0, xx = 0, xy = 0, yx = 0, yy = 0;
@@ -323,10 +317,10 @@ void plot(bool ldata) {
     if (ws.lcin || ws.lcout) {
         curve_attributes(old, iwork, colour);
         const char* fmt_head = "(1x, 2('|',a5), 2('|',a8  ),'|', a12,'|')";
-        line(DASHED);
+        menurule();
         writef(iocom.isout, fmt_head, "index", "index", "depth", "depth", "loop");
         writef(iocom.isout, fmt_head, "initl", "final", "initl", "final", "type");
-        line(DASHED);
+        menurule();
         for (int j1 = i1; j1 <= i2;) {
             int j2 = j1;
             while (j2 < i2 && I(j2 + 1, ILOOP) == I(j1, ILOOP)) ++j2;
@@ -354,7 +348,7 @@ void plot(bool ldata) {
             }
             j1 = j2 + 1;
         }
-        line(DASHED);
+        menurule();
         restore_attributes(old, iwork);
     }
 
@@ -433,7 +427,7 @@ void plot(bool ldata) {
 void wallplot2(const int& intera) {
     if (intera == 5 || intera == 6) {
         submenuhead(VB_WALLPLOT2);
-        line("INITIALIZING WALL PLOT PARAMETERS");
+        textline("INITIALIZING WALL PLOT PARAMETERS");
         ws = WALL_DEFAULTS;
         return;
     }
@@ -477,9 +471,9 @@ void wallplot2(const int& intera) {
             inintegvindef(ws.icpers, "whether to plot c1 or c2 (1/2)", ws.icpers, 1, 2, ierr);
             break;
         case 855:
-            line("do not mark saturated calipers ..0");
-            line("mark saturated calipers .........1");
-            line("mark unsaturated calipers .......2");
+            textline("do not mark saturated calipers ..0");
+            textline("mark saturated calipers .........1");
+            textline("mark unsaturated calipers .......2");
             inintegvindef(ws.icsatw, "your choice", ws.icsatw, 0, 2, ierr);
             break;
         case 860:

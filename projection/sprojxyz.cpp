@@ -14,8 +14,7 @@
 
 namespace {
 
-void line(std::string_view s) { writef(iocom.isout, "(1x,a)", s); }
-void rule(int n) { line(std::string(std::size_t(n), '-')); }
+void rule(int n) { textline(std::string(std::size_t(n), '-')); }
 void value_line(std::string_view s, float v) { writef(iocom.isout, "(1x,5(a,1x,f7.2))", s, v); }
 
 // The fixed axonometric kinds 2 to 7: angles of Ox, Oy, Oz in degrees,
@@ -45,11 +44,11 @@ void axono_general(farr<float, 3>& angles, farr<float, 3>& red) {
     for (;;) {
         submenuhead(VB_SAXONO2);
         rule(39);
-        line("Current parameters (angles in degrees):");
+        textline("Current parameters (angles in degrees):");
         rule(39);
         for (int k = 1; k <= 6; ++k) value_line(items[k - 1], k <= 3 ? angles(k) : red(k - 3));
         rule(39);
-        line("PARAMETERS ARE OK, PROCEED...99");
+        textline("PARAMETERS ARE OK, PROCEED...99");
         int choice = 99;
         inintegvindef(choice, "your choice", 99, 1, 99, ierr);
         if (choice == 99) return;
@@ -72,16 +71,16 @@ void saxono2(farr<float, 3>& angles, farr<float, 3>& red, int& itype, const int&
     }
     if (mode_resets(inter)) {
         submenuhead(VB_SAXONO2);
-        line(" INITIALIZING AXONOMETRIC PROJECTION");
-        line(" TO: isometric");
+        textline(" INITIALIZING AXONOMETRIC PROJECTION");
+        textline(" TO: isometric");
         itype = 4;
     }
     if (mode_talks(inter)) {
         submenuhead(VB_SAXONO2);
         rule(42);
-        line("AVAILABLE AXONOMETRIC PROJECTIONS:        ");
+        textline("AVAILABLE AXONOMETRIC PROJECTIONS:        ");
         rule(42);
-        for (const axono_kind& k : AXONO_KINDS) line(k.menu);
+        for (const axono_kind& k : AXONO_KINDS) textline(k.menu);
         menutail();
         int ierr = 0;
         inintegvindef(itype, "projection number", itype, 1, 7, ierr);
@@ -112,7 +111,7 @@ void snatper(float& azim, float& alti, farr<float, 3>& OEPE, float& dist, const 
     }
     if (mode_resets(inter)) {
         submenuhead(VB_SNATPER);
-        line(" INITIALIZING NATURAL PERSPECTIVE");
+        textline(" INITIALIZING NATURAL PERSPECTIVE");
         azim = -45.0f;
         alti = -45.0f;
         OEPE(1) = -10.0f;
@@ -125,20 +124,20 @@ void snatper(float& azim, float& alti, farr<float, 3>& OEPE, float& dist, const 
         for (;;) {
             submenuhead(VB_SNATPER);
             rule(39);
-            line("Current parameters (angles in degrees):");
+            textline("Current parameters (angles in degrees):");
             rule(39);
-            line("View direction angles (in degrees):");
+            textline("View direction angles (in degrees):");
             value_line(" azimuth......................1", azim);
             value_line(" altitude.....................2", alti);
-            line("View point cartesian coordinates in E:");
+            textline("View point cartesian coordinates in E:");
             value_line(" X............................3", OEPE(1));
             value_line(" Y............................4", OEPE(2));
             value_line(" Z............................5", OEPE(3));
-            line("Distance to 1:1 scale plane:");
+            textline("Distance to 1:1 scale plane:");
             value_line(" Distance.....................6", dist);
-            line(" Set scale 1:1 at Oe..........7");
+            textline(" Set scale 1:1 at Oe..........7");
             rule(39);
-            line("PARAMETERS ARE OK, PROCEED...99");
+            textline("PARAMETERS ARE OK, PROCEED...99");
             int choice = 99;
             inintegvindef(choice, "your choice", 99, 1, 99, ierr);
             if (choice == 99) break;
@@ -172,17 +171,17 @@ void sorthoproj(int& iortho, const int& inter) {
     if (mode_from_store(inter)) iortho = orthocom.iortho;
     if (mode_resets(inter)) {
         submenuhead(VB_SORTHOPROJ);
-        line(" INITIALIZING ORTHOGONAL PROJECTION");
-        line(" TO: // z");
+        textline(" INITIALIZING ORTHOGONAL PROJECTION");
+        textline(" TO: // z");
         iortho = 3;
     }
     if (mode_talks(inter)) {
         submenuhead(VB_SORTHOPROJ);
-        line("AVAILABLE ORTHOGONAL PROJECTIONS:       ");
+        textline("AVAILABLE ORTHOGONAL PROJECTIONS:       ");
         rule(40);
-        line(" // x into y,z plane .................1 ");
-        line(" // y into x,z plane .................2 ");
-        line(" // z into x,y plane .................3 ");
+        textline(" // x into y,z plane .................1 ");
+        textline(" // y into x,z plane .................2 ");
+        textline(" // z into x,y plane .................3 ");
         menutail();
         int ierr = 0;
         inintegvindef(iortho, "your choice", iortho, 1, 3, ierr);
@@ -195,7 +194,7 @@ void sprojxyz(int& iproj, const int& inter) {
     if (mode_from_caller(inter) && (iproj < 1 || iproj > 3)) {
         errorhead(VB_SPROJXYZ);
         writef(iocom.isout, "(1x,a,1x,i6)", " iproj =", iproj);
-        line(" NO SUCH PROJECTION AVALAIBLE ");
+        textline(" NO SUCH PROJECTION AVALAIBLE ");
         iproj = 1;
         writef(iocom.isout, "(1x,a,1x,i6)", " ==> RESETTING iproj =", iproj);
         errortail00();
@@ -205,18 +204,18 @@ void sprojxyz(int& iproj, const int& inter) {
     if (mode_resets(inter)) {
         iproj = 1;
         submenuhead(VB_SPROJXYZ);
-        line(" INITIALIZING ");
-        line(" 1 - DEFAULT PROJECTION TO: axonometric");
+        textline(" INITIALIZING ");
+        textline(" 1 - DEFAULT PROJECTION TO: axonometric");
     }
     if (mode_talks(inter) || forced) {
         submenuhead(VB_SPROJXYZ);
         rule(40);
-        line(" Setting up Projection (X,Y,Z) -> (x,y) ");
-        line("        AVAILABLE PROJECTIONS:          ");
+        textline(" Setting up Projection (X,Y,Z) -> (x,y) ");
+        textline("        AVAILABLE PROJECTIONS:          ");
         rule(40);
-        line(" Axonometric  .........................1");
-        line(" Natural perpective ...................2");
-        line(" Orthogonal projection ................3");
+        textline(" Axonometric  .........................1");
+        textline(" Natural perpective ...................2");
+        textline(" Orthogonal projection ................3");
         menutail();
         int ierr = 0;
         inintegvindef(iproj, "your choice", iproj, 1, 3, ierr);
@@ -230,8 +229,8 @@ void sprojxyz(int& iproj, const int& inter) {
     float azim = 0.0f, alti = 0.0f, dist = 0.0f;
     if (mode_resets(inter)) {
         submenuhead(VB_SPROJXYZ);
-        line(" INITIALIZING ");
-        line(" 2 - ALL PROJECTIONS PARAMETERS");
+        textline(" INITIALIZING ");
+        textline(" 2 - ALL PROJECTIONS PARAMETERS");
         saxono2(angles, red, itype, inter);
         snatper(azim, alti, oepe, dist, inter);
         sorthoproj(iortho, inter);
