@@ -195,6 +195,19 @@ TEST_F(WallMenu, CirclesEveryIncrementAndTheAlignmentAfterThePage) {
     }
 }
 
+// Marks on the far wall and at the tip of each spike, on the saturated or
+// the unsaturated samples.
+TEST_F(WallMenu, SaturationMarksFallOnTheChosenSamples) {
+    for (const auto& [icsatw, marks] : {std::pair{"0", 0}, {"1", 2 + 2}, {"2", 3 + 3}}) {
+        load({10, 20, 30, 40, 50});
+        for (int i : {2, 4}) w.RWD1(i, w.JCOL(w.jc1)) = 37.0f;
+        std::filesystem::remove("wellpers.ps");
+        menu({"855", icsatw, "100", "0", "3", "", "20", "", "99"});
+        EXPECT_EQ(occurrences(ps(), "closepath"), marks) << icsatw;
+        wallplot2(5);
+    }
+}
+
 // The sample well's first breakout, 2091.44 to 2182.73 m: pad 1 stands in
 // it at azimuth 65 while C1 opens by 3.5 to 7.5 cm.
 TEST_F(WallMenu, TheBreakoutShowsAlongItsAzimuthAndTurnsWithTheShift) {
