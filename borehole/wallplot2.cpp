@@ -181,7 +181,7 @@ void pagetext(int i1, int i2) {
     const float x = land ? 27.0f : 19.0f;
     const int jdep = w.JCOL(w.jdepth);
     // The increment is that of the file's first two rows.
-    const float inc = w.RWD1(2, jdep) - w.RWD1(1, jdep);
+    const float inc = w.ndatwd >= 2 ? w.RWD1(2, jdep) - w.RWD1(1, jdep) : 0.0f;
     cmplotcharinfo2("Depth init = " + realtext(w.RWD1(i1, jdep), 2, 7) + " final = " +
                         realtext(w.RWD1(i2, jdep), 2, 7) + " inc = " + realtext(inc, 2, 7),
                     1, x, y);
