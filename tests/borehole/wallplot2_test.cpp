@@ -119,11 +119,10 @@ TEST_F(WallMenu, MenuShowsEverySettingAndKeepsTheAnswers) {
     ASSERT_GT(q, 0);
     EXPECT_EQ(lines(last(" PLOT PARAMS                       Command") + 3, 7),
               (lines_t{" Landscape(T)/Portrait(F) ..............11 F",
-                                         " Set local scaling .....................12",
-                                         " Set plot and axes params ..............13",
-                                         " Set projection ........................14",
-                                         " Close plot file .......................20", DASH,
-                                         " WELL DATA STATUS"}));
+                       " Set local scaling .....................12",
+                       " Set plot and axes params ..............13",
+                       " Set projection ........................14",
+                       " Close plot file .......................20", DASH, " WELL DATA STATUS"}));
     EXPECT_EQ(lines(q - 2, 21),
               (lines_t{" Change hole parameters .....50", DASH,
                        " PARAMETERS                        Command", DASH,
