@@ -6,44 +6,19 @@
 #include <benchmark/benchmark.h>
 
 #include <cmath>
-#include <deque>
-#include <string>
 
+#include "bench_session.h"
 #include "borehole/wallplot2.h"
-#include "borehole/wellplot.h"
-#include "math/angles.h"
-#include "plot/attributes.h"
-#include "plot/pages.h"
-#include "projection/projection.h"
-#include "shell/console.h"
-#include "shell/runinfo.h"
-#include "shell/sio.h"
 #include "shell/units.h"
 #include "well/welldat.h"
 #include "well/wellpara.h"
 
 namespace {
 
-// Answers from a script, and a blank line once it is spent; the screen is
-// dropped.
-struct scripted_console : console {
-    std::deque<std::string> keys;
-    void put_line(std::string_view) override {}
-    std::string get_line() override {
-        if (keys.empty()) return std::string();
-        std::string k = keys.front();
-        keys.pop_front();
-        return k;
-    }
-};
-
 // A tool rotating through many half turns, stopped in a breakout every
 // 2000 samples.
 void load_well() {
-    swellparam(5);
-    int id = 0;
-    wdtype(id, 5);
-    id = 100;
+    int id = 100;
     wdtype(id, 1);
     welldat_t& w = welldat;
     w.ndatwd = MAXDATWD;
@@ -62,19 +37,7 @@ void load_well() {
 void BM_WallPage(benchmark::State& state) {
     scripted_console con;
     console_scope scope(con);
-    initsio2(5);
-    iocom.lpause = false;
-    runinfo3com.levelrt = 1;
-    runinfo3com.ROUTNAME(1) = "tarnolix";
-    trigoset();
-    splotattributes(5);
-    con.keys = {""};  // default page format
-    fstr<40> name = "/dev/null";
-    plinit(name, 5);
-    swellplot(5);
-    int iproj = 0;
-    sprojxyz(iproj, 5);
-    wallplot2(5);
+    start_log_session(con);
     load_well();
     for (auto _ : state) {
         con.keys = {"100", "", "99"};  // the page, a new page on the open file, leave

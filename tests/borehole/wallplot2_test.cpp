@@ -12,11 +12,8 @@
 
 #include "borehole/wallplot2.h"
 #include "borehole/wellplot.h"
-#include "math/angles.h"
 #include "plot/attributes.h"
 #include "plot/ghostscript.h"
-#include "plot/pages.h"
-#include "projection/projection.h"
 #include "shell/fake_platform.h"
 #include "shell/units.h"
 #include "well/well_fixture.h"
@@ -34,13 +31,6 @@ struct WallMenu : WellDialogue {
         use_fake_platform();
         smaininfo2("tarnolix            ", "12.3", "2024-09-14");
         iocom.lpause = false;
-        trigoset();
-        plt1blk = plt1blk_t{};
-        splotattributes(5);
-        swellplot(5);
-        int iproj = 0;
-        sprojxyz(iproj, 5);
-        wallplot2(5);
         clear();
     }
     void TearDown() override {
