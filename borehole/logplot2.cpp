@@ -7,6 +7,7 @@
 #include <string>
 
 #include "borehole/derived.h"
+#include "borehole/rotation.h"
 #include "borehole/tracks.h"
 #include "borehole/wellplot.h"
 #include "plot/attributes.h"
@@ -336,9 +337,9 @@ void logplot2(const int& intera) {
         // The tracks, in their fixed order.
         log_dat_plot3(itop, ibot, ldata, lcal, lazc, lrb, icmd);
         if (lcal) log_p1az_plot(itop, ibot, icmd);
+        if (lcal && (icmd == 302 || icmd == 303 || icmd == 304 || icmd == 305 || icmd == 353))
+            log_rot_plot(itop, ibot, s.nrotf, s.nrotc, icmd);
         // Still to come, in this place and order:
-        //   log_rot_plot(itop, ibot, nrotf, nrotc, icmd) with lcal, for 302
-        //     to 305 and 353;
         //   with lazc: log_azcm_11cdcat_plot2 for 355 and 361.
         if (lazc) {
             // The category pages (with RB) are the category routines'
