@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -248,6 +249,24 @@ TEST_F(LogMenu, EachPageCarriesItsHeadAndTracksInTheirPlacesAndRendersInGhostscr
                 << pg.icmd << " " << tr.label;
         }
     }
+}
+
+// The demo's keyboard script, run by the real program: it must still meet
+// the menus it was written for, fit the DEVI axis and draw its three pages.
+TEST_F(LogMenu, TheDemoJobRunsToItsEnd) {
+    sample("well210.txt");
+    const std::string cmd = std::string(TARNOLIX_BINARY) + " < " + TARNOLIX_SOURCE_DIR +
+                            "/data/log_job.keys > console.log 2>&1";
+    const int st = std::system(cmd.c_str());
+    EXPECT_TRUE(WIFEXITED(st) && WEXITSTATUS(st) == 0);
+    std::ifstream in("console.log");
+    const std::string console(std::istreambuf_iterator<char>(in), {});
+    EXPECT_EQ(occurrences(console, " final   value ...................21   35.000"), 2);
+    EXPECT_EQ(occurrences(console, " increment .......................22   5.0000"), 1);
+    const std::string file = ps();
+    EXPECT_EQ(occurrences(file, "%%Page:"), 3);
+    EXPECT_EQ(occurrences(file, " 595    0 translate 90 rotate"), 1);  // landscape A4
+    EXPECT_GS_RENDERS("log.ps");
 }
 
 }  // namespace
