@@ -251,6 +251,30 @@ TEST_F(LogMenu, EachPageCarriesItsHeadAndTracksInTheirPlacesAndRendersInGhostscr
     }
 }
 
+// The rotation tracks of the sample well: near 0 where the tool stops in
+// the breakouts and the key seat, minus the generated speed elsewhere. Away
+// from the changes of speed; the margin holds the noise of the data and,
+// deep down where the unwrapped azimuth runs to thousands of degrees, what
+// the single-precision fit loses.
+TEST_F(LogMenu, RotationOfTheSampleWellStopsAndSpeeds) {
+    read("210");
+    const struct {
+        int first, last;
+        float rate;
+    } stretches[] = {{1, 600, -6.f},     {601, 1200, 0.f},    {2901, 3500, 0.f},
+                     {4201, 4800, 0.f},  {4801, 5400, -3.f},  {5401, 6200, -20.f},
+                     {6201, 6800, 0.f},  {6801, 8000, -6.f}};
+    // 304 leaves the centred difference in the work column, 302 the
+    // forward fit.
+    for (const char* icmd : {"304", "302"}) {
+        menu({icmd, "0", "3", "", "99"});
+        iocom.lplotopen = false;
+        for (const auto& s : stretches)
+            for (int i = s.first + 70; i <= s.last - 70; ++i)
+                ASSERT_NEAR(welldat.RWD1(i, 10), s.rate, 1.25f) << icmd << " row " << i;
+    }
+}
+
 // The demo's keyboard script, run by the real program: it must still meet
 // the menus it was written for, fit the DEVI axis and draw its three pages.
 TEST_F(LogMenu, TheDemoJobRunsToItsEnd) {
