@@ -5,10 +5,8 @@
 #include "borehole/rotation.h"
 
 #include "borehole/tracks.h"
-#include "borehole/wellplot.h"
 #include "math/angles.h"
 #include "math/lstsq1.h"
-#include "plot/pages.h"
 #include "shell/format.h"
 #include "shell/frames.h"
 #include "shell/sio.h"
@@ -22,18 +20,10 @@ constexpr version_block VB_LOG_ROT_PLOT{"log_rot_plot        ", " 4.2", "2019-10
 
 constexpr int JAZU = JWORK9;    // unwrapped azimuth
 constexpr int JROTV = JWORK10;  // rotation rate of the curve being drawn
-constexpr int ROTAXIS = 8;
-constexpr int DEPTHAXIS = 1;
 
-// Where a command draws its two curves; subplot 0: not drawn.
-struct rotplace {
-    int icmd;
-    int ratesub, rateframe;  // the simple difference
-    int lsqsub, lsqframe;    // the least-squares rate
-};
-constexpr rotplace ROT_PLACES[] = {
-    {302, 7, 4, 8, 2}, {303, 7, 4, 8, 2}, {304, 8, 2, 0, 0}, {305, 0, 0, 8, 2}, {353, 4, 4, 5, 4},
-};
+// Where each command draws its two curves.
+constexpr trackplace RATE_PLACES[] = {{302, 303, 7, 4}, {304, 304, 8, 2}, {353, 353, 4, 4}};
+constexpr trackplace LSQ_PLACES[] = {{302, 303, 8, 2}, {305, 305, 8, 2}, {353, 353, 5, 4}};
 
 void labelled(std::string_view text, int value) {
     writef(iocom.isout, "(1x,a,1x,i6,1x,a)", text, value);
@@ -237,13 +227,10 @@ void log_rot_plot(const int& itop, const int& ibot, const int& nrotf, const int&
     rotunwrap(azu + (ia - 1), w.RWD1.col(w.JCOL(w.jp1az)) + (ia - 1), ib - ia + 1,
               wellpara.azorig);
 
-    const rotplace* at = nullptr;
-    for (const rotplace& p : ROT_PLACES)
-        if (p.icmd == icmd) at = &p;
     for (const bool lsq : {false, true}) {
-        const int sub = lsq ? at->lsqsub : at->ratesub;
-        if (sub == 0) continue;
-        slogbox(sub, ROTAXIS, DEPTHAXIS, lsq ? at->lsqframe : at->rateframe,
+        const trackplace* at = trackplaceof(lsq ? LSQ_PLACES : RATE_PLACES, icmd);
+        if (!at) continue;
+        slogbox(at->subplot, AXROTATION, AXDEPTH, at->frame,
                 lsq ? "Rot_lsq (deg/m)" : "Rot_rate (deg/m)");
         rotcase_t c;
         rotcase(c, itop, ibot, kfwd, kbwd, ndat);
@@ -256,6 +243,6 @@ void log_rot_plot(const int& itop, const int& ibot, const int& nrotf, const int&
         labelled("Last  data index = ", c.last);
         labelled("Number of data   = ", c.last - c.first + 1);
         textline(DASHED);
-        usline(rotv + (c.first - 1), depth + (c.first - 1), c.last - c.first + 1);
+        trackcurve(JROTV, c.first, c.last - c.first + 1);
     }
 }

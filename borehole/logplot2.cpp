@@ -7,7 +7,6 @@
 #include <string>
 
 #include "borehole/derived.h"
-#include "borehole/rotation.h"
 #include "borehole/tracks.h"
 #include "borehole/wellplot.h"
 #include "plot/attributes.h"

@@ -1,21 +1,14 @@
-// Tool rotation: how fast the logging tool turns about its axis, in degrees
-// per metre, from the pad 1 azimuth. The azimuth is unwrapped into one
-// continuous curve; the rate at a point comes from the rows of an interval
-// around it, from row i - kfwd to row i + kbwd, either as the difference of
-// its two ends or as the slope fitted through all of them. Near the ends of
-// the data the interval is cut short against the first or last sample.
-// Rows are 1-based; arrays are passed as a pointer to row 1.
+// The numerical steps of log_rot_plot: how fast the logging tool turns
+// about its axis, in degrees per metre, from the pad 1 azimuth. The
+// azimuth is unwrapped into one continuous curve; the rate at a point comes
+// from the rows of an interval around it, from row i - kfwd to row
+// i + kbwd, either as the difference of its two ends or as the slope fitted
+// through all of them. Near the ends of the data the interval is cut short
+// against the first or last sample. Rows are 1-based; arrays are passed as
+// a pointer to row 1.
 #pragma once
 
 #include "shell/fixed.h"
-
-// Draws the rotation tracks of commands 302, 303, 304, 305 and 353 on the
-// current page, with nrotf intervals forward or nrotc centred; rows itop to
-// ibot. Work columns 9 (unwrapped azimuth) and 10 (rate) are overwritten.
-void log_rot_plot(const int& itop, const int& ibot, const int& nrotf, const int& nrotc,
-                  const int& icmd);
-
-// The numerical steps of log_rot_plot.
 
 // The reach of the interval of icmd toward the first (kfwd) and the last
 // sample (kbwd); false for a command that draws no rotation.

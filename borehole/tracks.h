@@ -38,6 +38,13 @@ void log_dat_plot3(const int& itop, const int& ibot, const bool& ldata, const bo
 // curve (301 to 305, 353, 357, 359, 360). Called only with the calipers.
 void log_p1az_plot(const int& itop, const int& ibot, const int& icmd);
 
+// The rotation rate of the tool in degrees per metre, from P1Az: the
+// simple difference and the least-squares rate over nrotf intervals forward
+// (302, 353) or nrotc centred (303, 304, 305). Called only with the
+// calipers and for those commands. The numerical steps are in rotation.h.
+void log_rot_plot(const int& itop, const int& ibot, const int& nrotf, const int& nrotc,
+                  const int& icmd);
+
 // The borehole shape tests (ASE, ADE, ARK, |DC| levels, saturation,
 // Cmin - BS): AzCmax at the depths that pass (or fail) each test of the
 // page, with the counts on the console; 333 and 335 also write the rows
