@@ -49,8 +49,8 @@ void segment(float* rotv, const float* azu, const float* depth, rotform form, in
             lstsq1(a1, b1, depth + (r1 - 1), azu + (r1 - 1), n);
             rotv[i - 1] = -a1;
         } else {
-            // Equal depths at both ends give a rate that is no number, as
-            // the data say.
+            // Equal depths at both ends leave no finite rate; it is drawn
+            // as it comes.
             rotv[i - 1] = -(azu[r2 - 1] - azu[r1 - 1]) / (depth[r2 - 1] - depth[r1 - 1]);
         }
     }
@@ -218,7 +218,8 @@ void log_rot_plot(const int& itop, const int& ibot, const int& nrotf, const int&
     }
 
     // Only the rows some interval reaches are unwrapped, so the curve's
-    // level depends on where the selection starts; its slopes don't.
+    // level depends on where the selection starts; the rates only through
+    // the rounding of the single-precision fit, which grows with the level.
     const int ia = itop - kfwd > 1 ? itop - kfwd : 1;
     const int ib = ibot + kbwd < ndat ? ibot + kbwd : ndat;
     float* azu = w.RWD1.col(JAZU);
