@@ -184,8 +184,7 @@ TEST_F(LogMenu, EachPageCarriesItsHeadAndTracksInTheirPlacesAndRendersInGhostscr
     EXPECT_GS_RENDERS("log.ps");
 
     // Each track's label is centred on its subplot, and the frame code
-    // shows in the sides that carry the vertical scale's label. The
-    // rotation tracks of 302 to 305 are not among them yet.
+    // shows in the sides that carry the vertical scale's label.
     struct track {
         std::string label;
         int subplot, frame;  // frame: 1 left, 2 right, 3 both, 4 neither
@@ -199,10 +198,14 @@ TEST_F(LogMenu, EachPageCarriesItsHeadAndTracksInTheirPlacesAndRendersInGhostscr
     const std::string depth = "Depth init = 2000.00 final = 3219.05 inc = 0.15";
     const std::string forward = "Forward rotation on 66 intervals";
     const std::string centred = "Centered rotation on 66 intervals";
-    const std::vector<track> p304 = {{"C1,C2 (cm)", 3, 1}, {"P1Az [360]", 4, 4}, {"DEVI", 5, 4},
-                                     {"HAZI", 6, 4}, {"RB", 7, 4}};
+    std::vector<track> p304 = {{"C1,C2 (cm)", 3, 1}, {"P1Az [360]", 4, 4}, {"DEVI", 5, 4},
+                               {"HAZI", 6, 4}, {"RB", 7, 4}};
     const std::vector<track> p302 = {{"Cmin,Cmax", 3, 1}, {"AzCmax[180]", 4, 4},
-                                     {"P1Az [90]", 5, 4}, {"P1Az [360]", 6, 4}};
+                                     {"P1Az [90]", 5, 4}, {"P1Az [360]", 6, 4},
+                                     {"Rot_rate (deg/m)", 7, 4}, {"Rot_lsq (deg/m)", 8, 2}};
+    std::vector<track> p305 = p304;
+    p304.push_back({"Rot_rate (deg/m)", 8, 2});
+    p305.push_back({"Rot_lsq (deg/m)", 8, 2});
     const page pages[] = {
         {101, "|DC| (cm)", {{"AzCmax[180]", 2, 3}}, {depth}},
         {301, "Depth", {{"X-Section", 3, 1}, {"C1,C2 (cm)", 4, 4}, {"P1Az [360]", 5, 4},
@@ -210,7 +213,7 @@ TEST_F(LogMenu, EachPageCarriesItsHeadAndTracksInTheirPlacesAndRendersInGhostscr
         {302, "Depth", p302, {depth, forward}},
         {303, "Depth", p302, {depth, centred}},
         {304, "Depth", p304, {depth, centred}},
-        {305, "Depth", p304, {depth, centred}},
+        {305, "Depth", p305, {depth, centred}},
         {320, "Depth", {{"C1,C2 (cm)", 3, 1}, {"|C1-C2|", 4, 4}, {"(C1-C2)", 5, 4},
                         {"Cmin-BS", 6, 4}, {"AzCmax[180]", 7, 4}, {"RBCmax", 8, 2}}, {depth}},
     };
