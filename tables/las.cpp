@@ -274,6 +274,7 @@ int las_header(int unit, int& line, fstr_ref reason) {
     lasfile_t& f = lasfile;
     f = lasfile_t{};
     f.well.assign("");
+    f.loc.assign("");
     las_lines src(unit);
     char section = ' ';
     std::string_view l;
@@ -303,6 +304,8 @@ int las_header(int unit, int& line, fstr_ref reason) {
                 f.nulltext.assign(it.value);
             } else if (same_word(it.mnem, "STEP")) {
                 f.steptext.assign(it.value);
+            } else if (same_word(it.mnem, "LOC")) {
+                f.loc.assign(it.value.empty() ? it.descr : it.value);
             } else if (same_word(it.mnem, "WELL")) {
                 // LAS 1.2 put the well's name where 2.0 has the description.
                 const bool old = !f.vers.trimmed().empty() && f.vers(1) == '1';

@@ -21,6 +21,7 @@ struct lasfile_t {
     double null;          // the NULL value: such a value is no value
     fstr<16> nulltext;    // NULL as written
     fstr<80> well;        // the well name
+    fstr<80> loc;         // LOC of ~W: the location, as written
     fstr<16> steptext;    // STEP of ~W as written
     bool hasbs;           // bit size given in ~W or ~P
     float bs;             // the bit size, in bsunit
