@@ -21,11 +21,13 @@ cd "$work"
 for per in 1 20; do
   rm -f out/*
   start=$(date +%s.%N)
-  ls wells/*.txt | xargs -P 2 -n "$per" /usr/bin/time -f "%M %U %S" -a -o "rss_$per.txt" \
-    "$bin" stress --no-pdf --bitsize 21.59 --out out >/dev/null
+  ls wells/*.txt | xargs -P 2 -n "$per" sh -c \
+    'b=$1; shift; /usr/bin/time -f "%M %U %S" -a -o "$0" "$b" stress --no-pdf --bitsize 21.59 --out out \
+       --summary out/part.$$.txt "$@"' "$work/rss_$per.txt" "$bin" >/dev/null
   end=$(date +%s.%N)
   cpu=$(awk '{c += $2 + $3} END {printf "%.2f", c}' "rss_$per.txt")
   rss=$(awk '$1 > m {m = $1} END {print m}' "rss_$per.txt")
   printf "%3d wells a process: %6.2f s wall, %6.2f s CPU for %d wells, largest RSS %s kB, zone tables %d\n" \
     "$per" "$(echo "$end - $start" | bc)" "$cpu" "$(ls wells | wc -l)" "$rss" "$(ls out/*.stress.txt | wc -l)"
+  echo "     summary rows: $(awk 'FNR > 1' out/part.*.txt | grep -c 'ok$')"
 done

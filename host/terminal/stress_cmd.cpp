@@ -63,6 +63,8 @@ const char* const HELP =
     "                      mean and the rank (10)\n"
     "Output:\n"
     "  --out DIR           output folder (.)\n"
+    "  --summary FILE      the summary table, also for one file (with several:\n"
+    "                      DIR/stress_summary.txt)\n"
     "  --no-pdf            no PDF (the PDF needs ps2pdf)\n"
     "  --help              this text\n"
     "\n"
@@ -117,7 +119,7 @@ struct options {
     bool bitsize = false, top = false, bottom = false, cdiffpct = false, pdf = true;
     float bs = 0, ztop = 0, zbot = 0, cbsmin = -1, cbsmax = 1, c1sat = 37, c2sat = 37,
           cdiff = 2.9f, rbthr = 10;
-    std::string out = ".";
+    std::string out = ".", summary;
 };
 
 struct well_result {
@@ -380,7 +382,8 @@ void summary_row(const well_result& r) {
 bool takes_value(std::string_view a) {
     for (const char* k : {"--bitsize", "--gauge-min", "--gauge-max", "--c1sat", "--c2sat",
                           "--cdiff", "--rbthr", "--keyseat-devi", "--top", "--bottom",
-                          "--min-length", "--max-gap", "--max-turn", "--max-devi", "--out"})
+                          "--min-length", "--max-gap", "--max-turn", "--max-devi", "--out",
+                          "--summary"})
         if (a == k) return true;
     return false;
 }
@@ -408,8 +411,8 @@ int stress_command(int argc, char** argv) {
                 return 2;
             }
             std::string_view v = argv[++i];
-            if (a == "--out") {
-                o.out = std::string(v);
+            if (a == "--out" || a == "--summary") {
+                (a == "--out" ? o.out : o.summary) = std::string(v);
                 continue;
             }
             if (a == "--cdiff" && !v.empty() && v.back() == '%') {
@@ -447,9 +450,9 @@ int stress_command(int argc, char** argv) {
 
     stress_console con;
     console_scope scope(con);
-    const bool several = files.size() > 1;
+    const bool several = files.size() > 1 || !o.summary.empty();
     if (several) {
-        const std::string name = o.out + "/stress_summary.txt";
+        const std::string name = o.summary.empty() ? o.out + "/stress_summary.txt" : o.summary;
         if (!unit_open(UNIT_SUMMARY, name, "replace", "write")) {
             std::fprintf(stderr, "tarnolix stress: cannot write %s\n", name.c_str());
             return 2;
