@@ -433,8 +433,8 @@ void stresspage(std::string_view file) {
     {
         int sub = SUBROSE;
         ssubplot(sub, 1);
-        const float side = land ? 11.0f : 10.0f;
-        float xcm0 = land ? 13.5f : 9.0f, ycm0 = land ? 4.5f : 12.0f, xl = side, yl = side;
+        const float side = 10.0f;
+        float xcm0 = land ? 14.0f : 9.0f, ycm0 = land ? 5.5f : 12.0f, xl = side, yl = side;
         float u1 = -ymax, u2 = ymax, v1 = -ymax, v2 = ymax;
         int ixy = 1;
         sus2cm3(xcm0, ycm0, xl, yl, u1, u2, v1, v2, ixy, 1);
@@ -459,8 +459,8 @@ void stresspage(std::string_view file) {
         attributekept<int> align(stextalign);
         int a = -1;
         stextalign(a, 1);
-        const float x = land ? 13.5f : 9.0f;
-        float y = land ? 3.2f : 10.5f;
+        const float x = land ? 14.0f : 9.0f;
+        float y = land ? 3.8f : 10.5f;
         const std::string lines[3] = {
             "Zones " + num(s.nzone) + ", in the mean " + num(s.nused) + ", length " +
                 num(s.length, 1) + " m",
