@@ -417,14 +417,12 @@ void stresspage(std::string_view file) {
     for (int k = 1; k <= s.nzone; ++k) {
         const stresszone& z = s.Z(k);
         if (!z.used) continue;
-        for (int i = 0; i < z.nsamp; ++i) {
-            buf[i] = z.az;
-            buf[i + z.nsamp] = z.az + 180.0f;
-        }
-        const int n2 = 2 * z.nsamp;
         const float period = 360.0f, origin = 0.0f;
-        modulro(buf, buf, period, origin, n2);
-        hstadd(buf, n2, h);
+        for (const float a : {z.az, z.az + 180.0f}) {
+            for (int i = 0; i < z.nsamp; ++i) buf[i] = a;
+            modulro(buf, buf, period, origin, z.nsamp);
+            hstadd(buf, z.nsamp, h);
+        }
     }
     hstcompend(h);
     float xmin, xmax, ymin, ymax;
