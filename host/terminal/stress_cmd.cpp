@@ -81,7 +81,9 @@ struct stress_console : console {
     std::string last[8];
     int nlast = 0;
     std::string why;  // the failures the engine reported for this well
+    bool full = false;  // the table filled the well store
     void put_line(std::string_view l) override {
+        if (l.find("The array size has been reached") != std::string_view::npos) full = true;
         // Rules and frame borders say nothing.
         if (l.find_first_not_of(" *@/-=|") == std::string_view::npos) return;
         last[nlast % 8].assign(l);
@@ -123,7 +125,7 @@ struct options {
 };
 
 struct well_result {
-    std::string file, well, loc, why;
+    std::string file, well, loc, why, note;
     bool ok = false;
 };
 
@@ -272,6 +274,19 @@ bool read_las(const std::string& path, float& bs, bool& hasbs, std::string& why,
     return true;
 }
 
+// Whether a table that filled the store has a data line past it (the two
+// header lines, then the samples).
+bool more_than_full(const std::string& path) {
+    if (!unit_open(UNIT_DATA, path, "old", "read")) return false;
+    std::string rec;
+    bool more = false;
+    for (int k = 1; k <= MAXDATWD + 2 && unit_read(UNIT_DATA, rec); ++k) {
+    }
+    while (!more && unit_read(UNIT_DATA, rec)) more = !trimmed(rec).empty() && trimmed(rec) != " ";
+    unit_close(UNIT_DATA);
+    return more;
+}
+
 // One well: read, analyse, write its table and page.
 void one_well(const std::string& path, const options& o, bool pdf, stress_console& con,
               well_result& r) {
@@ -292,6 +307,11 @@ void one_well(const std::string& path, const options& o, bool pdf, stress_consol
     bool hasbs = false;
     if (las ? !read_las(path, lasbs, hasbs, r.why, o) : !read_table(path, r.why, con)) return;
     welldat_t& w = welldat;
+    if (!las && con.full && more_than_full(path)) {
+        r.note = ", first " + std::to_string(MAXDATWD) + " samples only";
+        std::fprintf(stderr, "tarnolix stress: %s: more than %d samples, the first read\n",
+                     path.c_str(), MAXDATWD);
+    }
     r.well = std::string(trimmed(w.titlewd.sv()));
     if (las && !lasfile.loc.trimmed().empty() && lasfile.loc.trimmed() != " ")
         r.loc = std::string(trimmed(lasfile.loc.sv()));
@@ -372,7 +392,7 @@ void summary_row(const well_result& r) {
                std::string(trimmed(formatf("(i8)", s.nzone - s.nused))) + "\t" +
                f(s.length, "(f14.3)") +
                "\t" + f(s.az, "(f14.1)") + "\t" + f(s.sd, "(f14.1)") + "\t" +
-               f(s.shmax, "(f14.1)") + "\t" + std::string(1, s.rank) + "\tok";
+               f(s.shmax, "(f14.1)") + "\t" + std::string(1, s.rank) + "\tok" + r.note;
     } else {
         row += "\t\t\t\t\t\t\t\t\tfailed: " + r.why;
     }
@@ -466,6 +486,7 @@ int stress_command(int argc, char** argv) {
         well_result r;
         con.why.clear();
         con.nlast = 0;
+        con.full = false;
         try {
             stresspara = sp;
             one_well(path, o, pdf, con, r);
