@@ -5,6 +5,7 @@
 #include <string>
 
 #include "borehole/derived.h"
+#include "borehole/rotation.h"
 #include "borehole/shaperules.h"
 #include "borehole/tracks.h"
 #include "histogram/blkhst8.h"
@@ -38,17 +39,6 @@ farr<float, MAXDATWD> KAZ;
 }  // namespace
 
 void stressparadefaults() { stresspara = stresspara_t{5.0f, 10.0f, 1.0f, 0.3f, 15.0f}; }
-
-void unwrapaz(float* out, const float* in, int n, float origin) {
-    if (n < 1) return;
-    const float period = 360.0f;
-    modulro(out, in, period, origin, 1);
-    for (int i = 1; i < n; ++i) {
-        // The shorter way round; a step of exactly 180 counts as -180.
-        const float o = out[i - 1] - 180.0f;
-        modulro(out + i, in + i, period, o, 1);
-    }
-}
 
 void axialmean(float& mean, float& sd, const float* a, const float* w, int n) {
     mean = sd = NaN;
@@ -179,8 +169,8 @@ void stresswell(int& ierr) {
     s.itop = itop;
     s.ibot = ibot;
 
-    unwrapaz(w.RWD1.col(JAZU) + (itop - 1), w.RWD1.col(w.JCOL(w.jp1az)) + (itop - 1), nsel,
-             wp.azorig);
+    rotunwrap(w.RWD1.col(JAZU) + (itop - 1), w.RWD1.col(w.JCOL(w.jp1az)) + (itop - 1), nsel,
+              wp.azorig);
 
     // The elongation test without its RB part, which is added only where the
     // hole is deviated enough for a key seat: near vertical the high side,

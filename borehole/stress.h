@@ -53,11 +53,6 @@ struct stresscom_t {
 };
 extern stresscom_t stresscom;
 
-// Wraps each step of in(1..n) into [-180, 180) from the value before, so
-// the curve runs on past 360 or below 0; out(1) is in(1) wrapped into
-// [origin, origin + 360). out may be in.
-void unwrapaz(float* out, const float* in, int n, float origin);
-
 // Axial mean of angles a(1..n) in degrees, weighted by w (nullptr: equal
 // weights): doubled angles, mean in [0, 180), circular standard deviation
 // half of sqrt(-2 ln R) in degrees. n = 0 (or no weight) gives NaN, NaN.

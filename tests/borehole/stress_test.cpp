@@ -163,15 +163,6 @@ TEST(StressRank, EachRankAtAndJustPastItsLimits) {
         EXPECT_EQ(stressrank(r.n, r.len, r.sd), r.rank) << r.n << " " << r.len << " " << r.sd;
 }
 
-TEST(StressUnwrap, StepsTakeTheShorterWayRound) {
-    const float in[5] = {350, 10, 30, 210, 40};
-    float out[5];
-    unwrapaz(out, in, 5, 0.0f);
-    // 30 -> 210 is exactly 180: counted as -180.
-    const float want[5] = {350, 370, 390, 210, 40};
-    for (int i = 0; i < 5; ++i) EXPECT_FLOAT_EQ(out[i], want[i]) << i;
-}
-
 // The command itself, on the sample wells, in a folder of the test's own.
 struct StressCommand : Dialogue {
     int run(const std::string& args) {
