@@ -142,19 +142,10 @@ void fillrule(const tstcontext& t, shaperule rule) {
 // symbols. The message lines are written before by the caller.
 void plotkept(const tstcontext& t, int subplot, int iaxis, int frame, std::string_view label,
               int keycolumn, int kept) {
-    welldat_t& w = welldat;
     slogbox(subplot, iaxis, AXDEPTH, frame, label);
-    float* x = trackcolumn(JWORK10, t.itop);
-    float* y = trackcolumn(JWORK11, t.itop);
-    int count = 0;
-    extractxy(x, y, count, trackcolumn(w.JCOL(w.jazcmax), t.itop),
-              trackcolumn(w.JCOL(w.jdepth), t.itop), w.IWD1.col(keycolumn) + (t.itop - 1),
-              t.nsel, kept);
-    const int out = iocom.isout;
-    writef(out, "(1x,a,1x,i6,1x,a)", "Number of   tested data = ", t.nsel);
-    writef(out, "(1x,a,1x,i6,1x,a)", "Number of retained data = ", count);
-    textline(DASHED);
-    if (count >= 1) ussymbol(x, y, count);
+    const int count = trackkept(keycolumn, kept, t.itop, t.nsel);
+    trackcounts(t.nsel, count);
+    trackkeptsymbols(t.itop, count);
 }
 
 // The rows kept by a global test, as a table behind the input file's name.

@@ -1,6 +1,8 @@
 // Helpers shared by the track routines.
 #include "borehole/tracks.h"
 
+#include "borehole/derived.h"
+
 #include "math/angles.h"
 #include "plot/pages.h"
 #include "plot/symbols.h"
@@ -31,6 +33,25 @@ void trackrefline(float x) {
     g1axbd(ys[0], ys[1], AXDEPTH);
     xs[0] = xs[1] = x;
     usline(xs, ys, 2);
+}
+
+int trackkept(int keycolumn, int value, int itop, int nsel) {
+    welldat_t& w = welldat;
+    int count = 0;
+    extractxy(trackcolumn(JWORK10, itop), trackcolumn(JWORK11, itop), count,
+              trackcolumn(w.JCOL(w.jazcmax), itop), trackcolumn(w.JCOL(w.jdepth), itop),
+              w.IWD1.col(keycolumn) + (itop - 1), nsel, value);
+    return count;
+}
+
+void trackkeptsymbols(int itop, int count) {
+    if (count >= 1) ussymbol(trackcolumn(JWORK10, itop), trackcolumn(JWORK11, itop), count);
+}
+
+void trackcounts(int nsel, int count) {
+    writef(iocom.isout, "(1x,a,1x,i6,1x,a)", "Number of   tested data = ", nsel);
+    writef(iocom.isout, "(1x,a,1x,i6,1x,a)", "Number of retained data = ", count);
+    textline(DASHED);
 }
 
 void trackhead(std::string_view message, std::string_view counttext, int n) {

@@ -54,6 +54,28 @@ void log_azcm_tst_plot(const int& icwork, const int& icsize, const int& icdc, co
                        const int& itop, const int& ibot, const int& nsel,
                        const farr<int, 2>& jcc, const bool& lrb, const int& icmd);
 
+// The shape classes: every selected depth falls into exactly one class of a
+// scheme, and each class shows AzCmax at its depths, with the counts on the
+// console. The 11 size codes (355) and the saturated ones (361).
+void log_azcm_11cdcat_plot2(const int& icsize, const int& itop, const int& ibot,
+                            const int& nsel, const int& icmd);
+// The 8 hole-shape categories of the size code and the DC and RB tests
+// (356, 357), written to IWD1 column icwork.
+void log_azcm_8hgcat_plot(const int& icwork, const int& icsize, const int& icdc,
+                          const int& icrb, const int& itop, const int& ibot, const int& nsel,
+                          const int& icmd);
+// The 7 categories (358 to 362), in IWD1 column icwork; on 361 and 362 all
+// of them as coloured symbols over the P1Az loops, with a legend at the
+// foot of the page.
+void log_azcm_7hgcat_plot(const int& icwork, const int& icsize, const int& icdc,
+                          const int& icrb, const int& itop, const int& ibot, const int& nsel,
+                          const int& icmd);
+
+// The breakouts and washouts picked outside the program ("BO" and "POW"
+// tables of depth and azimuth) as the last two tracks of 360 and 362. Asks
+// for both files each time; uses work columns 9 and 10 of RWD1.
+void log_azcm_select_plot();
+
 // ---------------------------------------------------------------------------
 // Work columns of RWD1 that the tracks fill for drawing. Rows 1 and 2 of
 // columns 9 and 10 also carry the two points of a reference line.
@@ -84,6 +106,15 @@ void trackcurve(int j, int itop, int n);
 void tracksymbols(int j, int itop, int n);
 // A vertical line at x over the whole depth range of the box.
 void trackrefline(float x);
+
+// The kept depths of a class or test: AzCmax and depth of the rows among
+// itop .. itop + nsel - 1 whose IWD1 column keycolumn holds value, into
+// work columns 10 and 11 from row itop; returns their number.
+int trackkept(int keycolumn, int value, int itop, int nsel);
+// Those count points as symbols of the type and size in force.
+void trackkeptsymbols(int itop, int count);
+// The end of a count frame: the tested and retained numbers, a rule.
+void trackcounts(int nsel, int count);
 
 // The console head of a track, the count frame: a rule, the message, the
 // count with its text ("Number of data = " or "Total number of data = "),
