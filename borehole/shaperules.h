@@ -61,3 +61,42 @@ inline bool shapepass(shaperule rule, const shaperow& row, float c1sat, float c2
     }
     return false;
 }
+
+// The hole-shape categories: each depth falls into exactly one, by its size
+// code (R, G, E groups by Cmin; S+S alone), the DC test and the RB test.
+// 0 for a code outside the 11.
+enum class sizegroup { none, r, g, e, ss };
+inline sizegroup sizegroupof(int c) {
+    if (c == CS_RR || c == CS_RG || c == CS_RE || c == CS_RS) return sizegroup::r;
+    if (c == CS_GG || c == CS_GE || c == CS_GS) return sizegroup::g;
+    if (c == CS_EE || c == CS_ES || c == CS_SE) return sizegroup::e;
+    if (c == CS_SS) return sizegroup::ss;
+    return sizegroup::none;
+}
+
+// 8 categories: 10 R, 20 ARK, 30 AR, 40 G, 50 ASE, 60 AEK, 70 ADE, 80 WO.
+// A restriction with Cmax along the top is ARK whatever Cmax is, and any
+// elongation along the top is AEK.
+inline int shapecat8(const shaperow& row) {
+    const bool dc = row.d != 0, off = row.r != 0;
+    switch (sizegroupof(row.c)) {
+    case sizegroup::r: return !dc ? 10 : (off ? 30 : 20);
+    case sizegroup::g: return !dc ? 40 : (off ? 50 : 60);
+    case sizegroup::e: return !dc ? 80 : (off ? 70 : 60);
+    case sizegroup::ss: return 80;
+    case sizegroup::none: break;
+    }
+    return 0;
+}
+
+// 7 categories: 10 R, 20 G, 30 WO, 40 AK, 50 AR, 60 ASE, 70 ADE. Both
+// calipers saturated, or an enlarged hole without a large DC, is WO; with
+// DC, Cmax along the top is AK whatever the size.
+inline int shapecat7(const shaperow& row) {
+    const sizegroup g = sizegroupof(row.c);
+    if (g == sizegroup::none) return 0;
+    if (g == sizegroup::ss) return 30;
+    if (row.d == 0) return g == sizegroup::r ? 10 : (g == sizegroup::g ? 20 : 30);
+    if (row.r == 0) return 40;
+    return g == sizegroup::r ? 50 : (g == sizegroup::g ? 60 : 70);
+}
