@@ -338,18 +338,19 @@ void logplot2(const int& intera) {
         if (lcal) log_p1az_plot(itop, ibot, icmd);
         if (lcal && (icmd == 302 || icmd == 303 || icmd == 304 || icmd == 305 || icmd == 353))
             log_rot_plot(itop, ibot, s.nrotf, s.nrotc, icmd);
-        // Still to come, in this place and order:
-        //   with lazc: log_azcm_11cdcat_plot2 for 355 and 361.
         if (lazc) {
-            // The category pages (with RB) are the category routines'
-            // (log_azcm_8hgcat_plot for 356, 357, log_azcm_7hgcat_plot for
-            // 358 to 362, still to come); every other command goes to the
-            // shape tests.
-            const bool category = lrb && icmd >= 356 && icmd <= 362;
-            if (!category)
+            if (icmd == 355 || icmd == 361)
+                log_azcm_11cdcat_plot2(icsize, itop, ibot, nsel, icmd);
+            // The category pages (with RB) are the category routines';
+            // every other command goes to the shape tests.
+            if (lrb && (icmd == 356 || icmd == 357))
+                log_azcm_8hgcat_plot(icwork, icsize, icdc, icrb, itop, ibot, nsel, icmd);
+            else if (lrb && icmd >= 358 && icmd <= 362)
+                log_azcm_7hgcat_plot(icwork, icsize, icdc, icrb, itop, ibot, nsel, icmd);
+            else
                 log_azcm_tst_plot(icwork, icsize, icdc, icrb, itop, ibot, nsel, jcc, lrb, icmd);
         }
-        // Still to come: log_azcm_select_plot for 360 and 362 with lazc.
+        if (lazc && (icmd == 360 || icmd == 362)) log_azcm_select_plot();
         if (ldata && icmd == 500) log_full_output();
     }
 
