@@ -220,6 +220,18 @@ def main(outdir):
     write(outdir, "well210.txt", table_text(
         "Synthetic well A, 9 7/8 in bit, type 210", NAMES_210, main_rows))
 
+    # Picks of the main well's breakouts and washout, as an interpreter
+    # would list them: every tenth sample of each interval, in depth order,
+    # each with the well's line at that depth (depth in column 1, AzCmax in
+    # column 8).  Taken from the rows above, so no draw of the generator.
+    for name, title, kinds in (
+            ("well210_BO.txt", "Breakout picks of synthetic well A",
+             ("breakout1", "breakout2")),
+            ("well210_POW.txt", "Washout picks of synthetic well A", ("washout",))):
+        picks = [main_rows[i - 1] for first, last, kind, _ in MAIN_INTERVALS
+                 if kind in kinds for i in range(first + 4, last + 1, 10)]
+        write(outdir, name, table_text(title, NAMES_210, picks))
+
     # Type 200: a deviated well drilled with an 8.5 in bit.
     rows = make_well(rng, {
         "bit": BIT_85, "z0": 1800.0, "hazi": 250.0, "az0": 300.0,
