@@ -3,32 +3,23 @@
 // with its extracted tables and rendered pages.
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <fstream>
-#include <limits>
 #include <map>
 #include <set>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "borehole/logplot2.h"
 #include "borehole/shaperules.h"
 #include "borehole/tracks.h"
-#include "borehole/wellplot.h"
-#include "math/angles.h"
-#include "plot/attributes.h"
 #include "plot/ghostscript.h"
-#include "plot/pages.h"
 #include "shell/format.h"
-#include "shell/runinfo.h"
-#include "well/well_fixture.h"
+#include "shape_fixtures.h"
 
 namespace {
 
 using lines_t = std::vector<std::string>;
 using counts_t = std::vector<std::pair<std::string, int>>;
-constexpr float NaN = std::numeric_limits<float>::quiet_NaN();
 const std::string DASH = " -------------------------------------------";
 
 TEST(ShapeRules, EachRuleTakesItsSizeCodes) {
@@ -48,44 +39,7 @@ TEST(ShapeRules, EachRuleTakesItsSizeCodes) {
                 << int(rule) << " " << c;
 }
 
-// 44 rows: each size code with each pair of DC and RB results.
-struct ShapePages : WellDialogue {
-    welldat_t& w = welldat;
-    farr<int, 2> jcc;
-    int n = 44;
-
-    void SetUp() override {
-        WellDialogue::SetUp();
-        iocom.lpause = false;
-        trigoset();
-        plt1blk = plt1blk_t{};
-        splotattributes(5);
-        type({""});
-        fstr<40> name = "shape.ps";
-        plinit(name, 5);
-        swellplot(5);
-        int id = 210;
-        wdtype(id, 1);
-        w.ndatwd = n;
-        jcc(1) = w.JCOL(w.jc1), jcc(2) = w.JCOL(w.jc2);
-        for (int i = 1; i <= n; ++i) {
-            const int code = 10 * (1 + (i - 1) / 4), d = (i - 1) % 2, r = ((i - 1) / 2) % 2;
-            w.IWD1(i, IWD_SIZE) = code, w.IWD1(i, IWD_DC) = d, w.IWD1(i, IWD_RB) = r;
-            w.RWD1(i, w.JCOL(w.jdepth)) = 100.f + float(i);
-            w.RWD1(i, w.JCOL(w.jazcmax)) = 65.f;
-            // C1 saturated from row 17 on but for the NaN of the last row;
-            // C2 where DC passes, NaN where neither passes.
-            w.RWD1(i, jcc(1)) = i == n ? NaN : 20.f + float(i);
-            w.RWD1(i, jcc(2)) = d == 1 ? 37.f : (r == 0 ? NaN : 30.f);
-        }
-        wellpara.ztop = 101.f;
-        wellpara.zbot = 100.f + float(n);
-        clear();
-    }
-    void TearDown() override {
-        iocom.lplotopen = false;
-        WellDialogue::TearDown();
-    }
+struct ShapePages : ShapeRows {
     // The messages and retained counts of the blocks drawn, in order.
     counts_t draw(int icmd, bool lrb = true) {
         clear();
@@ -167,28 +121,7 @@ TEST_F(ShapePages, NineDcLevelsFromAQuarterToFourTimesCdiff) {
 }
 
 // The sample well through the log menu, as the user meets it.
-struct ShapeWell : WellDialogue {
-    void SetUp() override {
-        WellDialogue::SetUp();
-        iocom.lpause = false;
-        smaininfo2("tarnolix            ", "12.3", "2024-09-14");
-        trigoset();
-        plt1blk = plt1blk_t{};
-        splotattributes(5);
-        swellplot(5);
-        logplot2(5);
-    }
-    void TearDown() override {
-        iocom.lplotopen = false;
-        WellDialogue::TearDown();
-    }
-    void read(const std::string& file, const std::string& id, float zbot) {
-        type({"100", id, "99", "1000", sample(file), "99", "99", "1000", "99"});
-        run([] { readwell2(2); });
-        wellpara.ztop = 0.f;
-        wellpara.zbot = zbot;
-        clear();
-    }
+struct ShapeTables : ShapeWell {
     // The depths of an extracted table: the first value of each line after
     // the title and the names.
     static lines_t depths(const std::string& name, const std::string& title) {
@@ -203,7 +136,7 @@ struct ShapeWell : WellDialogue {
     }
 };
 
-TEST_F(ShapeWell, TheExtractedTablesHoldTheGlobalTestAndEveryPageRenders) {
+TEST_F(ShapeTables, TheExtractedTablesHoldTheGlobalTestAndEveryPageRenders) {
     read("well210.txt", "210", 4000.f);
     type({"321", "0", "3", ""});
     for (const char* icmd : {"322", "323", "324", "325", "326", "332", "334", "350", "351",
