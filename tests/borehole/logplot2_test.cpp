@@ -165,7 +165,9 @@ std::pair<float, float> edges(int isubplot) {
 TEST_F(LogMenu, EachPageCarriesItsHeadAndTracksInTheirPlacesAndRendersInGhostscript) {
     read("200");
     menu({"101", "0", "3", "", "301", "", "302", "", "303", "", "304", "", "305", "", "320", "",
-          "200", "", "322", "", "362", "", "20", "", "99"});
+          "200", "", "322", "", "362", "",
+          // No picks: both files are left unread.
+          "well210.txt", "99", "99", "99", "well210.txt", "99", "99", "99", "20", "", "99"});
     const std::string file = ps();
     EXPECT_EQ(occurrences(file, "(Depth init = 2000.00 final = 3219.05 inc = 0.15)"), 10);
     EXPECT_EQ(occurrences(file, "(Centered rotation on 66 intervals)"), 3);
