@@ -3,7 +3,6 @@
 // 0.2 cm, labels 1 cm (28 points); every position is then a multiple of
 // 0.2 cm, exact in points (5.67 each).
 #include <algorithm>
-#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -61,10 +60,6 @@ protected:
         plot_session::SetUp();
         axisblk7a = axisblk7a_t{};
         axisblk7b = axisblk7b_t{};
-    }
-    void TearDown() override {
-        if (HasFailure()) std::fprintf(stderr, "---- screen ----\n%s----\n", con.text().c_str());
-        plot_session::TearDown();
     }
     void open(std::string_view name) {
         open_plot(name);
@@ -274,33 +269,4 @@ TEST_F(boxes, StoredBoxDrawsAsTheExplicitOneAndOnlyBoxOneExists) {
     EXPECT_GE(index_of(con.screen, " max box nb =      1"), 0);
     close_plot();
     EXPECT_GS_RENDERS("stored.ps");
-}
-
-// One page with a box in each range case, rendered to a PNG to look at:
-// every box has its axes at left and bottom, tics outward, and zero lines
-// only along ranges that ascend across zero.
-TEST_F(boxes, OnePageWithTheFourRangeCases) {
-    open("four_cases.ps");
-    const box_case cases[4] = {{-5, 5, -2, 10}, {5, -5, -2, 10}, {-5, 5, 10, -2}, {5, -5, 10, -2}};
-    const char* titles[4] = {"case 1: x up, y up", "case 2: x down, y up", "case 3: x up, y down",
-                             "case 4: x down, y down"};
-    const float corner[4][2] = {{3, 17}, {12, 17}, {3, 5}, {12, 5}};
-    float size = 0.4f;
-    stextsize(size, 1);
-    for (int k = 0; k < 4; ++k) {
-        int n = k + 2, ixy = 0;
-        ssubplot(n, 1);
-        float x0 = corner[k][0], y0 = corner[k][1], xl = 7, yl = 7, xmin = -5, xmax = 5, ymin = -2, ymax = 10;
-        sus2cm3(x0, y0, xl, yl, xmin, xmax, ymin, ymax, ixy, 1);
-        const box_case& c = cases[k];
-        usbax6(c.xfirst, c.xlast, c.yfirst, c.ylast, c.xfirst, c.xlast, c.xfirst < c.xlast ? 5.0f : -5.0f,
-               "x from first to last", 0, 0.4f, 5, 1, c.yfirst, c.ylast, c.yfirst < c.ylast ? 5.0f : -5.0f,
-               "y from first to last", 0, 0.4f, 5, 1, 1, 0, 1, 1, 0);
-        cmtext2(corner[k][0], corner[k][1] + 7.6f, titles[k]);
-    }
-    EXPECT_EQ(strings(new_lines()).size(), 4u * (3 + 1 + 3 + 1 + 1));
-    close_plot();
-    gs_result r = gs_render("four_cases.ps", "four_cases-%d.png", 100);
-    if (!r.available) GTEST_SKIP() << r.output;
-    EXPECT_TRUE(r.ok) << r.output;
 }

@@ -70,6 +70,11 @@ protected:
     }
     void skip_lines() { new_lines(); }
 
+    // The n screen lines from the first one equal to s on, or none.
+    std::vector<std::string> block(const std::string& s, int n) const {
+        const int k = find(s);
+        return k < 0 || k + n > int(con.screen.size()) ? std::vector<std::string>{} : lines(k, n);
+    }
     bool screen_has(std::string_view line) const { return count(con.screen, line) > 0; }
     using Dialogue::count;
     static int count(const std::vector<std::string>& v, std::string_view line) {
