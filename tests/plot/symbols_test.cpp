@@ -88,6 +88,10 @@ TEST_F(symbols, ShapesOfEveryType) {
     int hollow = 0;
     sfillstyle(hollow, 1);
     EXPECT_EQ(symbol(-4), path(DIAMOND, {"closepath", "stroke"}));
+    // Every type, hollow and filled, in the file that must render.
+    hollow = 1;
+    sfillstyle(hollow, 1);
+    for (int t = -41; t <= 41; ++t) symbol(t);
     close_plot();
     EXPECT_GS_RENDERS("shapes.ps");
 }
