@@ -32,17 +32,6 @@ box boxof(int n) {
         EXPECT_FLOAT_EQ(b_.h, H) << "subplot " << n; \
     } while (0)
 
-// The strings drawn, as they stand in the plot file.
-lines_t strings(const lines_t& file) {
-    lines_t v;
-    for (const auto& l : file) {
-        if (l.empty() || l.front() != '(') continue;
-        const auto e = l.rfind(')');
-        v.push_back(l.substr(1, e - 1));
-    }
-    return v;
-}
-
 class layout : public plot_session {
 protected:
     void SetUp() override {

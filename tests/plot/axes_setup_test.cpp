@@ -130,7 +130,7 @@ TEST_F(axis_setup, AxisMenusShowTheirPanelsAndStoreTheAnswers) {
     EXPECT_GT(find(" EXIT.............................99", find(" => RESET increment =   4.0000    ")), 0);
 
     // The link menu; a zero scale given there is reset at the next pass.
-    // With the link 1 the user lines_t of s1axis1 give way to one line.
+    // With the link 1 the user lines of s1axis1 give way to one line.
     con.screen.clear();
     int link = 0;
     float scale = 0;

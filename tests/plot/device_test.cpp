@@ -65,7 +65,7 @@ TEST_F(device, OtherPageFormatsSetTheirBoxAndLandscapeRotates) {
     struct {
         int isize;
         const char* name;
-        lines_t head;  // lines_t 4 and 5
+        lines_t head;  // lines 4 and 5
     } cases[] = {
         {2, "usp.ps", {"%%BoundingBox:    0    0  612  792", " 0.000  0.000  0.000 setrgbcolor"}},
         {3, "a4l.ps", {"%%BoundingBox:    0    0  595  842", " 595    0 translate 90 rotate"}},

@@ -9,7 +9,7 @@ namespace {
 
 using lines_t = std::vector<std::string>;
 
-// The moveto and lineto lines_t of each stroked path of a stretch of plot file.
+// The moveto and lineto lines of each stroked path of a stretch of plot file.
 std::vector<lines_t> paths(const lines_t& file) {
     std::vector<lines_t> v;
     bool open = false;

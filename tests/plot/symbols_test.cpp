@@ -33,7 +33,7 @@ const std::initializer_list<std::string> DIAMOND = {"283.50 289.17 moveto", "277
 
 class symbols : public plot_session {
 protected:
-    // The lines_t one symbol of the given type at (0, 0) writes.
+    // The lines one symbol of the given type at (0, 0) writes.
     lines_t symbol(int type) {
         float x = 0, y = 0;
         ssymboltype(type, 1);
