@@ -2,7 +2,6 @@
 // defaults, the box a track gets from slogbox, and the layout menu.
 #include <algorithm>
 #include <fstream>
-#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -33,17 +32,6 @@ box boxof(int n) {
         EXPECT_FLOAT_EQ(b_.h, H) << "subplot " << n; \
     } while (0)
 
-// The strings drawn, as they stand in the plot file.
-lines_t strings(const lines_t& file) {
-    lines_t v;
-    for (const auto& l : file) {
-        if (l.empty() || l.front() != '(') continue;
-        const auto e = l.rfind(')');
-        v.push_back(l.substr(1, e - 1));
-    }
-    return v;
-}
-
 class layout : public plot_session {
 protected:
     void SetUp() override {
@@ -64,13 +52,6 @@ protected:
         s1bx2d(ix, iy, l, r, b, t, clip, zero, lab, 1, 1);
         skip_lines();
         con.screen.clear();
-    }
-    void type_keys(std::initializer_list<std::string> keys) {
-        for (const auto& k : keys) con.type(k);
-    }
-    int find(const std::string& s, int from = 0) const {
-        auto it = std::find(con.screen.begin() + from, con.screen.end(), s);
-        return it == con.screen.end() ? -1 : int(it - con.screen.begin());
     }
 };
 
@@ -189,7 +170,7 @@ TEST_F(layout, TwelveAndEightBoxPagesRender) {
 
 TEST_F(layout, MenuShowsTheLayoutsAndTurnsThePage) {
     con.screen.clear();
-    type_keys({"50", "11", "0", "50", "99"});
+    type({"50", "11", "0", "50", "99"});
     swellplot(2);
     const lines_t& sc = con.screen;
     const int m = find(" MULTIPLE PLOTS LAYOUT");
@@ -227,16 +208,16 @@ TEST_F(layout, MenuShowsTheLayoutsAndTurnsThePage) {
 TEST_F(layout, SubplotEditsLastUntilTheOrientationChanges) {
     // Subplot 3 by hand; 0 does nothing; 11 with the same answer keeps the
     // edit; 99 to "subplot nb to modify" leaves, never sets all.
-    type_keys({"10", "0", "3", "1", "0", "100", "0", "200", "1", "1", "5", "5", "0", "99"});
-    type_keys({"11", "1", "99"});
+    type({"10", "0", "3", "1", "0", "100", "0", "200", "1", "1", "5", "5", "0", "99"});
+    type({"11", "1", "99"});
     swellplot(2);
     EXPECT_BOX(3, 1.0f, 1.0f, 5.0f, 5.0f);
     EXPECT_EQ(count(con.screen, " Do you want to alter this ?"), 1);
     EXPECT_EQ(count(con.screen, " subplot nb maxi =  28"), 3);
     // Above 28: 1 to 28 in turn.
-    type_keys({"10", "29"});
-    for (int k = 1; k <= 28; ++k) type_keys({""});
-    type_keys({"99", "11", "0", "99"});
+    type({"10", "29"});
+    for (int k = 1; k <= 28; ++k) type({""});
+    type({"99", "11", "0", "99"});
     swellplot(2);
     EXPECT_EQ(count(con.screen, " Do you want to alter this ?"), 29);
     EXPECT_BOX(3, 2.5f, 2.5f, 16.0f / 6.0f, 24.0f);
@@ -245,7 +226,7 @@ TEST_F(layout, SubplotEditsLastUntilTheOrientationChanges) {
 TEST_F(layout, ResetWithDialogueOffersEachAxisSetThenTheMenu) {
     axisblk7b.WALAB(6) = "edited";
     wellplot.llandscape = false;
-    for (int k = 1; k <= 31; ++k) type_keys({""});
+    for (int k = 1; k <= 31; ++k) type({""});
     swellplot(4);
     EXPECT_TRUE(wellplot.llandscape);
     EXPECT_EQ(axisblk7b.WALAB(6).trimmed(), "|DC| (cm)");

@@ -55,15 +55,12 @@ TEST_F(angles, ConstantsHaveTheirExactBitPatterns) {
 
 TEST_F(angles, DegreesAndRadians) {
     EXPECT_EQ(deg(anglerad.pinum), 180.0f);
-    EXPECT_FLOAT_EQ(rad(90.0f), anglerad.halfpi);
-    float in[3] = {0.0f, 90.0f, -45.0f}, out[3];
-    deg2rad(out, in, 3);
-    EXPECT_FLOAT_EQ(out[1], anglerad.halfpi);
-    EXPECT_FLOAT_EQ(out[2], -anglerad.quartpi);
-    // In place, back again.
-    rad2deg(out, out, 3);
-    EXPECT_FLOAT_EQ(out[1], 90.0f);
-    EXPECT_FLOAT_EQ(out[2], -45.0f);
+    float a[3] = {0.0f, 90.0f, -45.0f};
+    deg2rad(a, a, 3);
+    EXPECT_EQ((std::vector<float>{a[1], a[2], rad(90.0f)}),
+              (std::vector<float>{anglerad.halfpi, -anglerad.quartpi, anglerad.halfpi}));
+    rad2deg(a, a, 3);
+    EXPECT_EQ((std::vector<float>(a, a + 3)), (std::vector<float>{0.0f, 90.0f, -45.0f}));
 }
 
 TEST_F(angles, WrapIntoOriginAndPeriodOrAroundZero) {

@@ -14,15 +14,6 @@ using lines_t = std::vector<std::string>;
 
 class attributes : public plot_session {
 protected:
-    // The n screen lines from the first equal to s on.
-    lines_t block(const std::string& s, int n) const {
-        auto it = std::find(con.screen.begin(), con.screen.end(), s);
-        if (con.screen.end() - it < n) return {};
-        return lines_t(it, it + n);
-    }
-    void keys(std::initializer_list<const char*> ks) {
-        for (const char* k : ks) con.type(k);
-    }
     void expect_screen(std::initializer_list<const char*> ls) {
         for (const char* l : ls) EXPECT_TRUE(screen_has(l)) << '"' << l << '"';
     }
@@ -179,14 +170,14 @@ TEST_F(attributes, NumberOfColours) {
 }
 
 TEST_F(attributes, ColourTableMenuSetsOneColour) {
-    keys({"200", "2", "20", "Crimson", "30", "80", "10", "20", "99", "99"});
+    type({"200", "2", "20", "Crimson", "30", "80", "10", "20", "99", "99"});
     scolortable(0);
     EXPECT_EQ(name_of(2), "Crimson ");
     EXPECT_EQ(rgb(2), (std::vector<float>{80, 10, 20}));
     expect_screen({"     2 Red       100.0    0.0    0.0", "     2 Crimson    80.0   10.0   20.0",
                    " current|  100.0 |    0.0 |    0.0 |", "     new|   80.0 |   10.0 |   20.0 |"});
     // 98 leaves the colour as it was.
-    keys({"200", "2", "30", "0", "0", "0", "98", "99"});
+    type({"200", "2", "30", "0", "0", "0", "98", "99"});
     scolortable(0);
     EXPECT_EQ(plt2blk.RED(2), 80.0f);
 }
@@ -194,7 +185,7 @@ TEST_F(attributes, ColourTableMenuSetsOneColour) {
 TEST_F(attributes, ColourTableIsReadFromAFile) {
     std::ofstream("colours.txt") << "3\n0 100 100 100 'Paper'\n1, 0, 0, 0, 'Ink'\n\n"
                                  << "2 10 20 30 'Chartreuse green'\n3 0 0 100 Blue\n";
-    keys({"300", "colours.txt", "99"});
+    type({"300", "colours.txt", "99"});
     scolortable(0);
     EXPECT_EQ(plt2blk.ncolors, 3);
     EXPECT_EQ((lines_t{name_of(0), name_of(1), name_of(2), name_of(3)}),
@@ -205,7 +196,7 @@ TEST_F(attributes, ColourTableIsReadFromAFile) {
 
     // A file that ends early keeps what was read.
     std::ofstream("short.txt") << "4\n0 100 100 100 'Paper'\n1 0 0 0 'Ink'\n";
-    keys({"300", "short.txt", "99"});
+    type({"300", "short.txt", "99"});
     scolortable(0);
     EXPECT_EQ(block(" END OF FILE REACHED UNEXPECTEDLY", 3),
               (lines_t{" END OF FILE REACHED UNEXPECTEDLY", " WHILE READING LINE NUMBER       4",
@@ -222,7 +213,7 @@ TEST_F(attributes, ColourTableIsReadFromAFile) {
 TEST_F(attributes, MenuSetsLineWidthAndTextSizeFromTheDefaults) {
     float s = 2.0f;
     stextsize(s, 1);
-    keys({"10", "0.2", "1", "n", "31", "", "99"});
+    type({"10", "0.2", "1", "n", "31", "", "99"});
     splotattributes(0);
     EXPECT_EQ(plt2blk.linewidcm, 0.2f);
     EXPECT_EQ(plt2blk.textsizcm, 0.5f);  // from the initial values
@@ -232,7 +223,7 @@ TEST_F(attributes, MenuSetsLineWidthAndTextSizeFromTheDefaults) {
 }
 
 TEST_F(attributes, PanelsOfFillColourAndSymbolType) {
-    keys({"13"});
+    type({"13"});
     int c = 0;
     sfillcolor(c, 2);
     EXPECT_EQ(plt2blk.ifillcol, 13);

@@ -1,6 +1,5 @@
 // Setting up axes, the box and the curve point count: defaults, checks,
 // refusals and menus, seen in the records and on the screen.
-#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -29,24 +28,6 @@ protected:
         ptblock = ptblock_t{};
         snaxis(5);
         con.screen.clear();
-    }
-    void TearDown() override {
-        if (HasFailure()) std::fprintf(stderr, "---- screen ----\n%s----\n", con.text().c_str());
-        plot_session::TearDown();
-    }
-    void press(std::initializer_list<std::string> keys) {
-        for (const auto& k : keys) con.type(k);
-    }
-    int at(const std::string& s, int from = 0) const {
-        for (int k = from; k < int(con.screen.size()); ++k)
-            if (con.screen[std::size_t(k)] == s) return k;
-        return -1;
-    }
-    // n screen lines_t from the first one equal to s.
-    lines_t from(const std::string& s, int n) const {
-        const int k = at(s);
-        if (k < 0 || k + n > int(con.screen.size())) return {};
-        return lines_t(con.screen.begin() + k, con.screen.begin() + k + n);
     }
 };
 
@@ -81,7 +62,7 @@ TEST_F(axis_setup, BoundsAndRefusedAxisNumbers) {
     g1axbd(u1, u2, 16);
     EXPECT_EQ(u1, 0.0f);
     EXPECT_EQ(u2, 10.0f);
-    EXPECT_EQ(from(" trying to get bounds of axis nb =     16", 3),
+    EXPECT_EQ(block(" trying to get bounds of axis nb =     16", 3),
               (lines_t{" trying to get bounds of axis nb =     16", " max axis nb =     15", " ===> RETURNING [0, 10]"}));
     EXPECT_TRUE(screen_has(error_name("  g1axbd     ")));
 
@@ -108,7 +89,7 @@ TEST_F(axis_setup, IncrementIsCheckedAndTheUserRangeFollowsTheLink) {
     link = 2;
     s1axuswdtyp(link, scale, 2, 1);
     EXPECT_TRUE(screen_has(" ==> RESET TYPE =      0"));
-    press({"10", "2", "20", "2.5", "99"});
+    type({"10", "2", "20", "2.5", "99"});
     s1axuswdtyp(link, scale, 2, 0);
     a.wau1 = 0, a.wau2 = 10, a.waud = 5;
     a.set(2, 1);
@@ -117,7 +98,7 @@ TEST_F(axis_setup, IncrementIsCheckedAndTheUserRangeFollowsTheLink) {
 }
 
 TEST_F(axis_setup, AxisMenusShowTheirPanelsAndStoreTheAnswers) {
-    press({"20", "-10", "21", "10", "22", "4", "23", "0.4", "24", "1", "25", "2", "26", "Depth (m)", "27", "3",
+    type({"20", "-10", "21", "10", "22", "4", "23", "0.4", "24", "1", "25", "2", "26", "Depth (m)", "27", "3",
            "1", "-1", "2", "1", "99"});
     axis_args a;
     a.set(3, 2);
@@ -143,17 +124,17 @@ TEST_F(axis_setup, AxisMenusShowTheirPanelsAndStoreTheAnswers) {
 
     // An inconsistent increment brings the menu back after the warning.
     con.screen.clear();
-    press({"22", "-4", "99", "99"});
+    type({"22", "-4", "99", "99"});
     a.set(3, 2);
     EXPECT_TRUE(con.keys.empty());
-    EXPECT_GT(at(" EXIT.............................99", at(" => RESET increment =   4.0000    ")), 0);
+    EXPECT_GT(find(" EXIT.............................99", find(" => RESET increment =   4.0000    ")), 0);
 
     // The link menu; a zero scale given there is reset at the next pass.
-    // With the link 1 the user lines_t of s1axis1 give way to one line.
+    // With the link 1 the user lines of s1axis1 give way to one line.
     con.screen.clear();
     int link = 0;
     float scale = 0;
-    press({"20", "0", "10", "1", "99", "1", "99"});
+    type({"20", "0", "10", "1", "99", "1", "99"});
     s1axuswdtyp(link, scale, 3, 2);
     a.set(3, 2);
     EXPECT_EQ(lines_t(con.screen.begin() + 6, con.screen.begin() + 9),
@@ -169,9 +150,9 @@ TEST_F(axis_setup, AxisListMenuGoesToOneAxisOrThroughAll) {
     a.set(2, 3);
     a.walab = "Azimuth [90] degrees from north";
     a.set(2, 1);
-    press({"2", "99", "99"});
+    type({"2", "99", "99"});
     snaxis(0);
-    EXPECT_EQ(from(" AXIS SET UP", 6), (lines_t{" AXIS SET UP", RULE43, " axis label                  axis nb", RULE35,
+    EXPECT_EQ(block(" AXIS SET UP", 6), (lines_t{" AXIS SET UP", RULE43, " axis label                  axis nb", RULE35,
                                              " Generic 0-10 axis    ............ 1",
                                              " Azimuth [90] degrees ............ 2"}));
     EXPECT_TRUE(screen_has(" SETTING UP AXIS #      2"));
@@ -179,12 +160,12 @@ TEST_F(axis_setup, AxisListMenuGoesToOneAxisOrThroughAll) {
 
     // From 10 on, the link of the axis comes first.
     con.screen.clear();
-    press({"6", "99", "99", "99"});
+    type({"6", "99", "99", "99"});
     snaxis(10);
-    EXPECT_GT(at(HEAD_S1AXIS1), at(HEAD_S1AXUSWDTYP));
+    EXPECT_GT(find(HEAD_S1AXIS1), find(HEAD_S1AXUSWDTYP));
 
     con.screen.clear();
-    press({"100"});
+    type({"100"});
     for (int i = 0; i <= MAXAXIS; ++i) con.type("99");
     snaxis(2);
     EXPECT_TRUE(con.keys.empty());
@@ -195,13 +176,13 @@ TEST_F(axis_setup, BoxDefaultsRefusalsResetsAndMenu) {
     box_args b;
     b.ix = 9;
     b.set(2, 1);
-    EXPECT_EQ(from(" trying to set box nb =      2", 3),
+    EXPECT_EQ(block(" trying to set box nb =      2", 3),
               (lines_t{" trying to set box nb =      2", " max box nb =      1", " ===> NO ACTION"}));
 
     box_args c{0, 16, 1, 0, 1, 1, 0, 1, fstr<25>("log plot")};
     c.set(1, 1);
     EXPECT_EQ(c.ix * 10 + c.iy, 12);
-    EXPECT_EQ(from(" trying to set axis nb =     16", 3),
+    EXPECT_EQ(block(" trying to set axis nb =     16", 3),
               (lines_t{" trying to set axis nb =     16", " max axis nb =     15", " ==> RESET axis nb =      2"}));
     box_args d;
     d.set(1, 3);
@@ -209,7 +190,7 @@ TEST_F(axis_setup, BoxDefaultsRefusalsResetsAndMenu) {
     EXPECT_EQ(d.label.sv(), "log plot                 ");
 
     con.screen.clear();
-    press({"10", "4", "33", "0", "3", "40", "1", "50", "0", "60", "Depth track", "21", "99", "99"});
+    type({"10", "4", "33", "0", "3", "40", "1", "50", "0", "60", "Depth track", "21", "99", "99"});
     d.set(1, 2);
     EXPECT_TRUE(con.keys.empty());
     EXPECT_EQ(lines_t(con.screen.begin() + 3, con.screen.begin() + 7),
@@ -227,15 +208,15 @@ TEST_F(axis_setup, CurvePointCountIsKeptInsideTheBuffer) {
     int np = 2000;
     scptnp(np, 1);
     EXPECT_EQ(ptblock.npcurve, 1000);
-    EXPECT_EQ(from(" nb of points =   2000", 4),
+    EXPECT_EQ(block(" nb of points =   2000", 4),
               (lines_t{" nb of points =   2000", " > curve buffer size =   1000", " ===> reset nb of points =   1000",
                      " ===> WILL NOT PLOT ALL THE DATA"}));
     con.screen.clear();
     np = 90;
-    press({"10", "1001", "45", "99"});
+    type({"10", "1001", "45", "99"});
     scptnp(np, 0);
     EXPECT_TRUE(con.keys.empty());
-    EXPECT_EQ(from(" max nb of points ................   1000", 3),
+    EXPECT_EQ(block(" max nb of points ................   1000", 3),
               (lines_t{" max nb of points ................   1000", " nb of points ..................10     90",
                      " nb of segments ..................     89"}));
     EXPECT_EQ(ptblock.npcurve, 45);

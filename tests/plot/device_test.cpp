@@ -65,7 +65,7 @@ TEST_F(device, OtherPageFormatsSetTheirBoxAndLandscapeRotates) {
     struct {
         int isize;
         const char* name;
-        lines_t head;  // lines_t 4 and 5
+        lines_t head;  // lines 4 and 5
     } cases[] = {
         {2, "usp.ps", {"%%BoundingBox:    0    0  612  792", " 0.000  0.000  0.000 setrgbcolor"}},
         {3, "a4l.ps", {"%%BoundingBox:    0    0  595  842", " 595    0 translate 90 rotate"}},
@@ -218,6 +218,11 @@ TEST_F(device, LongPolylineGoesOutInThreePaths) {
     EXPECT_EQ(starts[1] - starts[0], 503u);  // newpath, moveto, 500 lineto, stroke
     EXPECT_EQ(starts[2] - starts[1], 503u);
     EXPECT_EQ(f.size() - starts[2], 202u);  // newpath, moveto, 199 lineto, stroke
+    // No points: refused, nothing drawn.
+    usline(x.data(), y.data(), 0);
+    EXPECT_TRUE(new_lines().empty());
+    for (const char* l : {" is =        1", " > nx =        0", " attempt to read past array"})
+        EXPECT_TRUE(screen_has(l)) << l;
     close_plot();
     EXPECT_GS_RENDERS("long.ps");
 }
@@ -267,7 +272,7 @@ TEST_F(device, CoordinatePastTheLimitIsResetWithAWarningEach) {
 // ---------------------------------------------------------------------------
 // Strings
 
-TEST_F(device, RotatedCentredString) {
+TEST_F(device, StringsRotatedJustifiedTrimmedInTheirFontAndColour) {
     open_format(1, "txt.ps");
     float angle = 30.0f;
     stextangle(angle, 1);
@@ -280,16 +285,15 @@ TEST_F(device, RotatedCentredString) {
                                   "14 /Helvetica findfont exch scalefont setfont", "(Depth)",
                                   "dup stringwidth pop -2 div 0 rmoveto", "show", " -30.00 rotate"}));
     EXPECT_EQ(x, 300.0f);
-    close_plot();
-    EXPECT_GS_RENDERS("txt.ps");
-}
 
-TEST_F(device, JustificationTrimmingFontAndColourOfStrings) {
-    open_format(1, "just.ps");
+    angle = 0.0f;
+    stextangle(angle, 1);
     fstr<10> label = "  Depth";
-    float x = 100, y = 100;
+    x = 100, y = 100;
+    just = -1;
+    stextalign(just, 1);
     detext2(x, y, label);  // -1: left, base, trimmed
-    int just = 1;
+    just = 1;
     stextalign(just, 1);
     detext2(x, y, label);  // positive: blanks kept
     just = -11;
@@ -304,7 +308,7 @@ TEST_F(device, JustificationTrimmingFontAndColourOfStrings) {
                      "100.00 85.82 moveto", "14 /Times-Bold findfont exch scalefont setfont",
                      " 1.000  0.000  0.000 setrgbcolor", "(Depth)", "dup stringwidth pop -1 div 0 rmoveto", "show"}));
     close_plot();
-    EXPECT_GS_RENDERS("just.ps");
+    EXPECT_GS_RENDERS("txt.ps");
 }
 
 // ---------------------------------------------------------------------------

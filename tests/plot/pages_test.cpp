@@ -1,5 +1,4 @@
 // Pages, subplots, maps and lines, seen in the plot file and on the screen.
-#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -10,7 +9,7 @@ namespace {
 
 using lines_t = std::vector<std::string>;
 
-// The moveto and lineto lines_t of each stroked path of a stretch of plot file.
+// The moveto and lineto lines of each stroked path of a stretch of plot file.
 std::vector<lines_t> paths(const lines_t& file) {
     std::vector<lines_t> v;
     bool open = false;
@@ -20,13 +19,6 @@ std::vector<lines_t> paths(const lines_t& file) {
         else if (open && (l.ends_with(" moveto") || l.ends_with(" lineto"))) v.back().push_back(l);
     }
     return v;
-}
-
-// Point i of a zigzag (i, i mod 7) under a map of 28.35 points per unit.
-std::string zig(int i, const char* word) {
-    char b[80];
-    std::snprintf(b, sizeof b, "%.2f %.2f %s", 28.35 * i, 28.35 * (i % 7), word);
-    return b;
 }
 
 class pages : public plot_session {};
@@ -71,36 +63,6 @@ TEST_F(pages, OpeningWithDefaultsResetsEverySubplotAndClosingFinishesTheFile) {
     EXPECT_TRUE(screen_has(" The plot window or file is already closed"));
     EXPECT_TRUE(con.keys.empty());
     EXPECT_GS_RENDERS("open5.ps");
-}
-
-// Paths of more than 501 points are cut into slices that share their ends
-// (the device tests follow a 1200-point line through).
-TEST_F(pages, PolylinesPast501PointsAreSlicedAndAnEmptyOneIsRefused) {
-    open_plot("slices.ps");
-    float xcm0 = 0, ycm0 = 0, xx = 1, xy = 0, yx = 0, yy = 1;
-    sus2cm1(xcm0, ycm0, xx, xy, yx, yy, 1);
-    std::vector<float> x(502), y(502);
-    for (int i = 1; i <= 502; ++i) {
-        x[std::size_t(i - 1)] = float(i);
-        y[std::size_t(i - 1)] = float(i % 7);
-    }
-    skip_lines();
-    usline(x.data(), y.data(), 501);
-    auto p = paths(new_lines());
-    ASSERT_EQ(p.size(), 1u);
-    EXPECT_EQ(p[0].size(), 501u);
-    usline(x.data(), y.data(), 502);
-    p = paths(new_lines());
-    ASSERT_EQ(p.size(), 2u);
-    EXPECT_EQ(p[0][500], zig(501, "lineto"));
-    EXPECT_EQ(p[1], (lines_t{zig(501, "moveto"), zig(502, "lineto")}));
-
-    usline(x.data(), y.data(), 0);
-    EXPECT_TRUE(new_lines().empty());
-    for (const char* l : {" is =        1", " > nx =        0", " attempt to read past array"})
-        EXPECT_TRUE(screen_has(l)) << l;
-    close_plot();
-    EXPECT_GS_RENDERS("slices.ps");
 }
 
 TEST_F(pages, SubplotSelectionInforms) {

@@ -70,6 +70,18 @@ protected:
     }
     void skip_lines() { new_lines(); }
 
+    // The n screen lines from the first one equal to s on, or none.
+    std::vector<std::string> block(const std::string& s, int n) const {
+        const int k = find(s);
+        return k < 0 || k + n > int(con.screen.size()) ? std::vector<std::string>{} : lines(k, n);
+    }
+    // The strings drawn in a stretch of plot file, in order.
+    static std::vector<std::string> strings(const std::vector<std::string>& file) {
+        std::vector<std::string> v;
+        for (const auto& l : file)
+            if (!l.empty() && l.front() == '(') v.push_back(l.substr(1, l.rfind(')') - 1));
+        return v;
+    }
     bool screen_has(std::string_view line) const { return count(con.screen, line) > 0; }
     using Dialogue::count;
     static int count(const std::vector<std::string>& v, std::string_view line) {

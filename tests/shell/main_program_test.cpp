@@ -45,6 +45,11 @@ TEST_F(MainMenu, ShowsTheMenuAndFastQuitEndsWithoutAQuestion) {
     // Then straight to the end report.
     EXPECT_EQ(end_report(), w + int(rest.size()) + 1);
     EXPECT_EQ(find(" Enter 999 to confirm quit"), -1);
+    // The banner came first, and the system questions left no file.
+    const int b = find(" @" + std::string(9, ' ') + "https://github.com/tarnolix/tarnolix");
+    EXPECT_TRUE(b > 0 && b < h) << b;
+    EXPECT_EQ(fake.commands.size(), 4u);
+    EXPECT_TRUE(std::filesystem::is_empty("."));
 }
 
 TEST_F(MainMenu, QuitAsksForConfirmationAndReturnConfirms) {
@@ -130,16 +135,6 @@ TEST_F(MainMenu, KeyboardThatEndsEndsTheRunWithoutEndReport) {
     EXPECT_EQ(end_report(), -1);
 }
 
-TEST_F(MainMenu, StartsWithTheBannerAndLeavesNoTemporaryFile) {
-    type({"9999"});
-    EXPECT_EQ(run(), 0);
-    // The banner comes before the first menu and waited for one return.
-    EXPECT_LT(find(" @" + std::string(9, ' ') + "https://github.com/tarnolix/tarnolix"), find(HEAD));
-    EXPECT_FALSE(std::filesystem::exists("sys_version_tmp_001.txt"));
-    EXPECT_FALSE(std::filesystem::exists("cpu_info_tmp_001.txt"));
-    EXPECT_EQ(fake.commands.size(), 4u);
-}
-
 // The plot file commands: 10 opens, 20 closes, QUIT closes before it asks.
 TEST_F(MainMenu, PlotFilesOpenCloseAndTheLastNameBecomesTheNextDefault) {
     // 10; return for default settings; the name; 20; return to close.
@@ -151,14 +146,6 @@ TEST_F(MainMenu, PlotFilesOpenCloseAndTheLastNameBecomesTheNextDefault) {
     EXPECT_FALSE(iocom.lplotopen);
     EXPECT_GS_RENDERS("well.ps");
     EXPECT_GS_RENDERS("other.ps");
-}
-
-TEST_F(MainMenu, CloseWithoutAnOpenFileWarns) {
-    type({"20", "", "9999"});
-    EXPECT_EQ(run(), 0);
-    const int w = find(" The plot window or file is already closed");
-    ASSERT_GT(w, 4);
-    EXPECT_EQ(lines(w - 4, 4), warning_head_lines("  plend      "));
 }
 
 TEST_F(MainMenu, QuitAndFastQuitCloseTheFileBeforeTheyEnd) {

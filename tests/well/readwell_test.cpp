@@ -83,12 +83,9 @@ TEST_F(ReadWell, ATypeChangeThenCancelLeavesNone) {
     // The pending type is still the one chosen.
     EXPECT_GT(find(" Type ID      : 100", w), w);
 
-    clear();
-    int ilist = 0;
-    status(ilist, 1);
-    EXPECT_EQ(screen(), (lines_t{DASH, " WELL DATA STATUS", DASH, " type name      : NONE", " type id        :      0",
-                                 " nb of variables:      0", " nb of data     :      0", " max nb of data :  15000",
-                                 " input file name: none", " title          : none"}));
+    EXPECT_EQ(current_id(), 0);
+    EXPECT_EQ(welldat.ndatwd, 0);
+    EXPECT_EQ(welldat.finwd.trimmed(), "none");
 }
 
 // Every value of the file comes back as the nearest 4-byte real of what the
