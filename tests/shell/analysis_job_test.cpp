@@ -34,7 +34,7 @@ std::vector<std::string> made(const fs::path& dir, const std::vector<std::string
 
 TEST_F(MainMenu, TheAnalysisJobFromItsFileLeavesTheFilesOfTheSameAnswersTyped) {
     const fs::path data = fs::path(TARNOLIX_SOURCE_DIR) / "data";
-    const std::vector<std::string> given = {"well210.txt", "well210_bo.txt", "well210_pow.txt",
+    const std::vector<std::string> given = {"well210.txt", "well210_BO.txt", "well210_POW.txt",
                                             "analysis_job.cmd"};
     std::vector<std::string> job;
     {
