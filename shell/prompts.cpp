@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <string>
+#include <type_traits>
 
 #include "shell/format.h"
 #include "shell/frames.h"
@@ -33,6 +34,16 @@ void enter_line(std::string_view t) { textline("Enter", t); }
 void could_not_read(const version_block& vb, std::string_view t) {
     errorhead(vb);
     textline("could not read", t);
+    textline("==> RETRYING");
+    errortail00();
+}
+
+// A real that reads but is no number to work with (NaN, Inf, or too large
+// for 4 bytes): refused like an answer that can't be read.
+void not_finite(const version_block& vb, std::string_view t, float v) {
+    errorhead(vb);
+    writef(iocom.isout, "(1x,a,1x,g12.6)", std::string(t) + " =", v);
+    textline("is not a finite number");
     textline("==> RETRYING");
     errortail00();
 }
@@ -151,6 +162,12 @@ bool read_defaulted(T& v, T def, const version_block& vb, std::string_view t, st
     if (!readlist_str(buf, v)) {
         could_not_read(vb, t);
         return false;
+    }
+    if constexpr (std::is_floating_point_v<T>) {
+        if (!std::isfinite(v)) {
+            not_finite(vb, t, v);
+            return false;
+        }
     }
     return true;
 }

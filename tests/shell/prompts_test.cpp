@@ -127,6 +127,31 @@ TEST_F(Prompts, RealRangeAndDefaultFormatsFollowTheSizeOfTheBounds) {
     }
 }
 
+TEST_F(Prompts, NonFiniteRealsAreRefusedWithTheFrameOfThePromptAndAskedAgain) {
+    struct Case {
+        std::string answer, shown;
+    } cases[] = {{"NaN", " a =          NaN"}, {"inf", " a =     Infinity"},
+                 {"-Infinity", " a =    -Infinity"}, {"1e39", " a =     Infinity"}};
+    for (bool ranged : {false, true}) {
+        for (const auto& c : cases) {
+            clear();
+            type({c.answer, "", "1.5"});
+            float x = 0.f;
+            int e;
+            if (ranged)
+                inrealvindef(x, "a", 1.f, -1e30f, 1e30f, e);
+            else
+                inrealdef(x, "a", 1.f, e);
+            EXPECT_EQ(x, 1.5f) << c.answer;
+            const int k = find(c.shown);
+            ASSERT_GT(k, 9) << c.answer;
+            EXPECT_EQ(lines(k - 9, 9), error_head_lines(ranged ? " inrealvindef" : "  inrealdef  "));
+            EXPECT_EQ(lines(k + 1, 2), (Lines{" is not a finite number", " ==> RETRYING"}));
+            EXPECT_EQ(count(" Enter a"), 2);
+        }
+    }
+}
+
 TEST_F(Prompts, RealOutsideRangeAndNotANumber) {
     type({"400", "", "nonsense", "", "12.25"});
     float v = 0;
