@@ -2,6 +2,7 @@
 // symbol's centre, so that the user map moves a symbol but never scales it.
 #include "plot/symbols.h"
 
+#include <climits>
 #include <cmath>
 #include <cstdlib>
 
@@ -152,7 +153,8 @@ void ussymbol(const float* x, const float* y, const int& n) {
     const bool filled = type < 0;
     const float r = plt1blk.cm2descale * plt2blk.symsizcm * 0.5f;
     symbol_shape s;
-    build_shape(s, std::abs(type), r);
+    // The most negative type has no positive twin: it asks for an unknown shape.
+    build_shape(s, type == INT_MIN ? INT_MAX : std::abs(type), r);
 
     float* xb = pltbuff1.XDEVBUFF.data();
     float* yb = pltbuff1.YDEVBUFF.data();

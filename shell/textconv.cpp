@@ -1,5 +1,7 @@
 #include "shell/textconv.h"
 
+#include <algorithm>
+#include <climits>
 #include <cmath>
 #include <string>
 
@@ -12,6 +14,16 @@ namespace {
 constexpr version_block VB_INTG2CHAR{"intg2char  ", "3.00", "16-12-98  "};
 constexpr version_block VB_REAL2CHARF1{"real2charf1", "1.00", "16-12-98  "};
 constexpr version_block VB_CAREAFMPN{"careafmpn", "1.00", "16-12-98  "};
+
+void real_size_frame(float value, int m, long long count) {
+    errorhead(VB_REAL2CHARF1);
+    writef(iocom.isout, "(1x,a,1x,f30.5)", "Cannot get size of real =", value);
+    writef(iocom.isout, "(1x,a,1x,i6)", "set n before =", m);
+    writef(iocom.isout, "(1x,a,1x,i6)", "set nchar =",
+           int(std::clamp(count, (long long)INT_MIN, (long long)INT_MAX)));
+    textline("Watch for NaN or +/-Inf in output ?");
+    errortail00();
+}
 
 void fill_nines(fstr_ref text, int maximum) {
     text.assign("");
@@ -78,36 +90,41 @@ void intg2char(fstr_ref text, int& count, int maximum, int value) {
 
 void real2charf1(fstr_ref text, int& count, int decimals, int maximum, float value) {
     int d = decimals;
-    float t = std::pow(10.f, float(-d)) + 1e-07f;
+    float t = std::pow(10.f, -float(d)) + 1e-07f;
     float low = value - t, high = value + t;
+    // The length is summed wide: a digit count near the int range would
+    // overflow it.
+    long long count_wide = 0;
     int m;
-    if (high <= -1.f) {
+    if (std::isinf(value)) {
+        // The logarithm of an infinity has no digits to count: reported as
+        // a NaN is.
+        m = 4;
+        count_wide = (long long)d + 5;
+        real_size_frame(value, m, count_wide);
+    } else if (high <= -1.f) {
         m = int(std::log(std::fabs(low)) * 0.4342945f) + 1;
-        count = m + d + 2;
+        count_wide = (long long)m + d + 2;
     } else if (value < 0.f) {
         m = 1;
-        count = d + 3;
+        count_wide = (long long)d + 3;
     } else if (low < 1.f) {
         m = 1;
-        count = d + 2;
+        count_wide = (long long)d + 2;
     } else if (low >= 1.f) {
         m = int(std::log(std::fabs(high)) * 0.4342945f) + 1;
-        count = m + d + 1;
+        count_wide = (long long)m + d + 1;
     } else {
         // Only a NaN gets here.
         m = 4;
-        count = d + 5;
-        errorhead(VB_REAL2CHARF1);
-        writef(iocom.isout, "(1x,a,1x,f30.5)", "Cannot get size of real =", value);
-        writef(iocom.isout, "(1x,a,1x,i6)", "set n before =", m);
-        writef(iocom.isout, "(1x,a,1x,i6)", "set nchar =", count);
-        textline("Watch for NaN or +/-Inf in output ?");
-        errortail00();
+        count_wide = (long long)d + 5;
+        real_size_frame(value, m, count_wide);
     }
-    if (count > maximum) {
-        count = maximum;
+    if (count_wide > maximum) {
+        count_wide = maximum;
         d = maximum - m - 2;
     }
+    count = int(std::clamp(count_wide, (long long)INT_MIN, (long long)INT_MAX));
     if (d < 0) {
         errorhead(VB_REAL2CHARF1);
         writef(iocom.isout, "(1x,a,1x,f30.5)", "Cannot write real =", value);
@@ -116,6 +133,7 @@ void real2charf1(fstr_ref text, int& count, int decimals, int maximum, float val
         writef(iocom.isout, "(1x,a,1x,i3)", "==> fill with 9 and set nchar =", maximum);
         errortail00();
         fill_nines(text, maximum);
+        count = maximum;  // as the frame says, whatever the decimals asked for
         return;
     }
     careafmpn(text, count, d, value);

@@ -1,6 +1,8 @@
 // Numbers into label text, base names, and value search in columns.
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "dialogue.h"
 #include "shell/textconv.h"
 #include "shell/valuesearch.h"
@@ -62,6 +64,33 @@ TEST_F(TextConv, NumbersTooLongForTheirTextLoseDecimalsThenAreNines) {
     careafmpn(f, 3, 3, 1.f);
     EXPECT_EQ(f, "X");
     EXPECT_GT(find(" fm.n is not a valid format"), 0);
+}
+
+TEST_F(TextConv, InfinitiesAndWildDigitCountsGiveTheirFramesAndFitTheText) {
+    struct Case {
+        int dec, max;
+        float v;
+        std::string text, frame;
+        int n;
+    } cases[] = {
+        {2, 12, INFINITY, "    Inf", " Cannot get size of real =", 7},
+        {2, 12, -INFINITY, "   -Inf", " Cannot get size of real =", 7},
+        {2147483647, 12, 1.5f, " 1.500000000", "", 12},
+        {-2147483647 - 1, 12, 1.5f, "999999999999", " Cannot write real =", 12},
+    };
+    for (const auto& c : cases) {
+        clear();
+        type({"", ""});
+        fstr<12> t;
+        int n = 0;
+        real2charf1(t, n, c.dec, c.max, c.v);
+        EXPECT_EQ(t.trimmed(), c.text) << c.dec;
+        EXPECT_EQ(n, c.n) << c.dec;
+        if (c.frame.empty())
+            EXPECT_TRUE(screen().empty()) << c.dec;
+        else
+            EXPECT_EQ(screen()[9].substr(0, c.frame.size()), c.frame) << c.dec;
+    }
 }
 
 TEST_F(TextConv, LinearSearch) {
