@@ -1,6 +1,7 @@
 // Drawing axes and boxes. Everything is built on cmaxis11, which draws one
 // axis along any straight line on the paper; a box is four such lines, or
 // plain lines where an edge carries no axis.
+#include <algorithm>
 #include <cmath>
 #include <initializer_list>
 
@@ -24,6 +25,11 @@ constexpr version_block VB_D1BX2D{"d1bx2d     ", " 2.1", "2012-05-09"};
 
 constexpr int NUMLEN = 20;  // characters of a number text
 
+// Bounds on what one axis writes, whatever its settings: a depth typed
+// with three digits too many would otherwise put millions of tics on a page.
+constexpr int MAXTICS = 500;    // tics
+constexpr int MAXMARKS = 5000;  // tics and subtics together
+
 
 // An angle in degrees wrapped into (-period/2, period/2].
 float wrapped(float angle, float period) {
@@ -35,6 +41,7 @@ float wrapped(float angle, float period) {
 // The integer part, held inside the range of an int so that a wild bound
 // can't overflow the conversion.
 int trunc_int(float v) {
+    if (std::isnan(v)) return 0;
     if (v >= 2.0e9f) return 2000000000;
     if (v <= -2.0e9f) return -2000000000;
     return int(v);
@@ -77,6 +84,47 @@ void bounds_lines(float wau1, float wau2, float waud) {
     realline("initial value      =", wau1);
     realline("final   value      =", wau2);
     realline("increment          =", waud);
+}
+
+// The settings an axis was last bounded for: every track of a log page
+// draws the same depth axis, and one warning for them is enough.
+struct bounded_axis {
+    float wau1, wau2, waud;
+    int nasubint;
+    bool operator==(const bounded_axis&) const = default;
+};
+bounded_axis last_bounded{0.0f, 0.0f, 0.0f, 0};
+
+// True the first time in a row that these settings need a warning.
+bool first_warning(float wau1, float wau2, float waud, int nasubint) {
+    const bounded_axis now{wau1, wau2, waud, nasubint};
+    if (now == last_bounded) return false;
+    last_bounded = now;
+    return true;
+}
+
+// Fits the tics (nint intervals of d) and the subtics into the bounds; a
+// warning, once for the same settings, says what was changed.
+void bound_marks(float& nint, float& d, int& nsub, float wau1, float wau2, float waud) {
+    const bool many_tics = nint > float(MAXTICS);
+    if (many_tics) {
+        // Whole multiples of the increment keep the tics on its values.
+        const float k = std::ceil(nint / float(MAXTICS));
+        d *= k;
+        nint /= k;
+    }
+    const int ntics = trunc_int(nint + 0.0001f) + 1;
+    const int nsub0 = nsub;
+    if (nsub > MAXMARKS / ntics) nsub = std::max(1, MAXMARKS / ntics);
+    if (!many_tics && nsub == nsub0) return;
+    if (!first_warning(wau1, wau2, waud, nsub0)) return;
+    warninghead(VB_CMAXIS11);
+    textline("Too many tics for one axis:");
+    bounds_lines(wau1, wau2, waud);
+    writef(iocom.isout, "(1x,a,1x,i12)", "nb of subtics intervals =", nsub0);
+    if (many_tics) realline("=> RESET increment =", d);
+    if (nsub != nsub0) writef(iocom.isout, "(1x,a,1x,i12)", "=> RESET subtics intervals =", nsub);
+    warningtail00();
 }
 
 // One axis's annotation, as usbax6 hands it on to cmaxis11.
@@ -183,13 +231,24 @@ void cmaxis11(const float& x0, const float& y0, const float& x1, const float& y1
     float d = WAUD != 0.0f ? WAUD : WAU2 - WAU1;
     // Equal bounds with no increment would divide zero by zero.
     float nint = d != 0.0f ? (WAU2 - WAU1) / d : 0.0f;
+    // Bounds or an increment past the range of a real leave no tic to place.
+    const bool finite = std::isfinite(WAU1) && std::isfinite(WAU2) && std::isfinite(d) &&
+                        std::isfinite(nint);
 
     const float ang = wrapped(ticangle, 360.0f);
     const float tdir = rad(ang + axang);
     const farr<float, 2> VTIC0{{std::cos(tdir), std::sin(tdir)}};
-    const float labw = s * number_width(WAU1, WAU2, NAWDIG) * 0.6f;
+    const float labw = finite ? s * number_width(WAU1, WAU2, NAWDIG) * 0.6f : 0.0f;
 
-    if (nint == 0.0f) {
+    if (!finite) {
+        if (first_warning(WAU1, WAU2, WAUD, NASUBINT)) {
+            warninghead(VB_CMAXIS11);
+            textline("Annotation bounds not finite:");
+            bounds_lines(WAU1, WAU2, WAUD);
+            textline("=> SKIPPING TICS");
+            warningtail00();
+        }
+    } else if (nint == 0.0f) {
         warninghead(VB_CMAXIS11);
         textline("Identical annotation bounds:");
         bounds_lines(WAU1, WAU2, d);
@@ -208,15 +267,18 @@ void cmaxis11(const float& x0, const float& y0, const float& x1, const float& y1
             warningtail00();
         }
 
+        int nsub = NASUBINT;
+        bound_marks(nint, d, nsub, WAU1, WAU2, WAUD);
+
         // A range that isn't a whole number of increments ends in a partial
         // run of subtics after the last tic.
         const int nwhole = trunc_int(nint + 0.0001f);
         const int ntics = nwhole + 1;
-        const int nrest = trunc_int((nint - float(nwhole)) * float(NASUBINT) + 0.0001f);
+        const int nrest = trunc_int((nint - float(nwhole)) * float(nsub) + 0.0001f);
 
         const farr<float, 2> DAXTIC{{VAXIS(1) / nint, VAXIS(2) / nint}};
         const farr<float, 2> VTIC1{{t * VTIC0(1), t * VTIC0(2)}};
-        cmtic2(OAXIS, DAXTIC, VTIC1, subratio, ntics, NASUBINT, nrest);
+        cmtic2(OAXIS, DAXTIC, VTIC1, subratio, ntics, nsub, nrest);
 
         float tangle = 0.0f;
         int just = -1;

@@ -123,6 +123,61 @@ TEST_F(axes, ReversedRangesWrongAndMissingIncrementsEqualBounds) {
     EXPECT_GS_RENDERS("reversed.ps");
 }
 
+TEST_F(axes, AbsurdSettingsDrawABoundedAxisAndWarnOnceForThem) {
+    open("bounded.ps");
+    struct Case {
+        float wau1, wau2, waud;
+        int nsub;
+        lines_t warning;  // after the head; empty: none
+        long tics;        // paths: axis line, tics and subtics
+    } cases[] = {
+        // A bottom depth typed with four digits too many.
+        {2040, 20400000, 50, 5,
+         {" Too many tics for one axis:", " initial value      =   2040.0    ",
+          " final   value      =  0.20400E+08", " increment          =   50.000    ",
+          " nb of subtics intervals =            5", " => RESET increment =   40800.    "},
+         1 + 500 + 499 * 4 + 4},
+        {0, 10, 1e-30f, 5,
+         {" Too many tics for one axis:", " initial value      =   0.0000    ",
+          " final   value      =   10.000    ", " increment          =  0.10000E-29",
+          " nb of subtics intervals =            5", " => RESET increment =  0.20000E-01"},
+         1 + 501 + 500 * 4},
+        {0, 10, 5, 2000000000,
+         {" Too many tics for one axis:", " initial value      =   0.0000    ",
+          " final   value      =   10.000    ", " increment          =   5.0000    ",
+          " nb of subtics intervals =   2000000000",
+          " => RESET subtics intervals =         1666"},
+         1 + 3 + 2 * 1665},
+        {0, 1e38f, 1, 5, {}, -1},
+        {-3e38f, 3e38f, 1, 5,
+         {" Annotation bounds not finite:", " initial value      = -0.30000E+39",
+          " final   value      =  0.30000E+39", " increment          =   1.0000    ",
+          " => SKIPPING TICS"},
+         1},
+    };
+    for (const auto& c : cases) {
+        con.screen.clear();
+        const lines_t l = xaxis(c.wau1, c.wau2, c.waud, c.nsub);
+        const lines_t again = xaxis(c.wau1, c.wau2, c.waud, c.nsub);
+        EXPECT_EQ(l, again) << c.wau2;
+        if (c.tics >= 0) {
+            EXPECT_EQ(paths(l), c.tics) << c.wau2;
+            EXPECT_EQ(std::count(con.screen.begin(), con.screen.end(),
+                                 " ///          subroutine   cmaxis11             ///"),
+                      1)
+                << c.wau2;
+            const int k = index_of(con.screen, c.warning[0]);
+            ASSERT_GE(k, 3) << c.wau2;
+            EXPECT_EQ(lines_t(con.screen.begin() + k, con.screen.begin() + k + long(c.warning.size())),
+                      c.warning);
+        } else {
+            EXPECT_LE(paths(l), 5001) << c.wau2;
+        }
+    }
+    close_plot();
+    EXPECT_GS_RENDERS("bounded.ps");
+}
+
 TEST_F(axes, NumberSpacingDecimalsAndPlacementAlongTheTics) {
     open("numbers.ps");
     lines_t two = xaxis(0, 20, 5, 5, 2);  // five tics, numbers on 1, 3, 5
