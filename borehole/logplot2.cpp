@@ -315,6 +315,16 @@ void logplot2(const int& intera) {
             logdatacheck(jcc, ldata, lcal, lazc, lrb);
             continue;
         }
+        // Equal depths leave the tracks no height to draw on: no page.
+        if (plotcommand(icmd) && wellpara.ztop == wellpara.zbot) {
+            warninghead(VB_LOGPLOT2);
+            textline("Depth interval of zero size:");
+            realline("Ztop =", wellpara.ztop);
+            realline("Zbot =", wellpara.zbot);
+            textline("=> SKIPPING PLOT");
+            warningtail00();
+            continue;
+        }
 
         if (icmd == 20)
             plend();
@@ -351,6 +361,7 @@ void logplot2(const int& intera) {
                 log_azcm_tst_plot(icwork, icsize, icdc, icrb, itop, ibot, nsel, jcc, lrb, icmd);
         }
         if (lazc && (icmd == 360 || icmd == 362)) log_azcm_select_plot();
+        trackend();
         if (ldata && icmd == 500) log_full_output();
     }
 

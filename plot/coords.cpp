@@ -4,6 +4,8 @@
 
 #include "math/matrix.h"
 #include "plot/pages.h"
+#include "shell/format.h"
+#include "shell/frames.h"
 #include "shell/intera.h"
 #include "shell/sio.h"
 
@@ -56,6 +58,27 @@ void affine(float* xout, float* yout, const float* xin, const float* yin, int n,
         xout[i] = m(1, 1) * xa + m(1, 2) * ya + ox;
         yout[i] = m(2, 1) * xa + m(2, 2) * ya + oy;
     }
+}
+
+// A map that can be inverted: finite entries and a determinant neither zero
+// nor past the range of a real. Anything else would stop the run in the
+// inversion, or put NaN on the paper.
+bool invertible(float xx, float xy, float yx, float yy) {
+    const float det = xx * yy - xy * yx;
+    return std::isfinite(xx) && std::isfinite(xy) && std::isfinite(yx) && std::isfinite(yy) &&
+           det != 0.0f && std::isfinite(det);
+}
+
+// A map refused: the subplot keeps the one it had, and its drawing goes on
+// there. Settings come from panels and tables that check no range.
+void refused_map(std::string_view routine, float xx, float xy, float yx, float yy) {
+    errorhead(routine, "", "");
+    writef(iocom.isout, "(1x,a,1x,i6)", "subplot nb =", plt1blk.isubplot);
+    textline("Box or scale of zero or non-finite size:");
+    writef(iocom.isout, "(5(1x,a,1x,g15.3))", "xx =", xx, "xy =", xy);
+    writef(iocom.isout, "(5(1x,a,1x,g15.3))", "yx =", yx, "yy =", yy);
+    textline("===> NO ACTION: SUBPLOT KEEPS ITS MAP");
+    errortail00();
 }
 
 }  // namespace
@@ -130,6 +153,10 @@ void sus2cm1(float& xcm0, float& ycm0, float& xx, float& xy, float& yx, float& y
             yy = 1.0f;
         }
         if (mode_talks(inter)) mus2cm1(xcm0, ycm0, xx, xy, yx, yy);
+        if (!invertible(xx, xy, yx, yy) || !std::isfinite(xcm0) || !std::isfinite(ycm0)) {
+            refused_map("sus2cm1", xx, xy, yx, yy);
+            return;
+        }
         plt1blk.US0TOCM(1, k) = xcm0;
         plt1blk.US0TOCM(2, k) = ycm0;
         store_matrix(k, xx, xy, yx, yy);
@@ -161,6 +188,11 @@ void sus2cm2(float& xcm0, float& ycm0, float& xu0, float& yu0, float& xx, float&
             yy = 1.0f;
         }
         if (mode_talks(inter)) mus2cm2(xcm0, ycm0, xu0, yu0, xx, xy, yx, yy);
+        if (!invertible(xx, xy, yx, yy) || !std::isfinite(xcm0) || !std::isfinite(ycm0) ||
+            !std::isfinite(xu0) || !std::isfinite(yu0)) {
+            refused_map("sus2cm2", xx, xy, yx, yy);
+            return;
+        }
         plt1blk.USMINTOCM(1, k) = xcm0;
         plt1blk.USMINTOCM(2, k) = ycm0;
         plt1blk.USEXTR(1, k) = xu0;
@@ -200,15 +232,6 @@ void sus2cm3(float& xcm0, float& ycm0, float& xlcm, float& ylcm, float& xumin, f
             ixy = 1;
         }
         if (mode_talks(inter)) mus2cm3(xcm0, ycm0, xlcm, ylcm, xumin, xumax, yumin, yumax, ixy);
-        plt1blk.USEXTR(1, k) = xumin;
-        plt1blk.USEXTR(2, k) = xumax;
-        plt1blk.USEXTR(3, k) = yumin;
-        plt1blk.USEXTR(4, k) = yumax;
-        plt1blk.CMAXLENGTH(1, k) = xlcm;
-        plt1blk.CMAXLENGTH(2, k) = ylcm;
-        plt1blk.USMINTOCM(1, k) = xcm0;
-        plt1blk.USMINTOCM(2, k) = ycm0;
-        plt1blk.ISOXY(k) = ixy;
         // Reversed limits give a negative scale, so an axis can run downward;
         // an equal scale keeps each axis's own sign.
         float xx = xlcm / (xumax - xumin);
@@ -219,6 +242,22 @@ void sus2cm3(float& xcm0, float& ycm0, float& xlcm, float& ylcm, float& xumin, f
             else
                 yy = std::copysign(std::fabs(xx), yy);
         }
+        // The offset needs the corner's values themselves finite.
+        if (!invertible(xx, 0.0f, 0.0f, yy) || !std::isfinite(xcm0) || !std::isfinite(ycm0) ||
+            !std::isfinite(xumin) || !std::isfinite(yumin) || !std::isfinite(xumax) ||
+            !std::isfinite(yumax)) {
+            refused_map("sus2cm3", xx, 0.0f, 0.0f, yy);
+            return;
+        }
+        plt1blk.USEXTR(1, k) = xumin;
+        plt1blk.USEXTR(2, k) = xumax;
+        plt1blk.USEXTR(3, k) = yumin;
+        plt1blk.USEXTR(4, k) = yumax;
+        plt1blk.CMAXLENGTH(1, k) = xlcm;
+        plt1blk.CMAXLENGTH(2, k) = ylcm;
+        plt1blk.USMINTOCM(1, k) = xcm0;
+        plt1blk.USMINTOCM(2, k) = ycm0;
+        plt1blk.ISOXY(k) = ixy;
         store_matrix(k, xx, 0.0f, 0.0f, yy);
         store_offset(k, xcm0, ycm0, xumin, yumin);
     }
