@@ -114,6 +114,6 @@ void log_azcm_select_plot() {
         selectiontable(s, trimmed(selfile[k].sv()), trimmed(title.sv()), nread, first, last);
         slogbox(s.subplot, AXAZCMAXCAT, AXDEPTH, s.frame, s.shortname);
         // The picks as they stand in the file: their azimuths aren't wrapped.
-        if (n >= 1) ussymbol(trackcolumn(JSELAZ, first), trackcolumn(JSELDEP, first), n);
+        if (n >= 1) trackpoints(trackcolumn(JSELAZ, first), trackcolumn(JSELDEP, first), n);
     }
 }

@@ -125,7 +125,7 @@ void log_dat_plot3(const int& itop, const int& ibot, const bool& ldata, const bo
 
         for (int i = 0; i < n; ++i) w9[i] = std::fabs(c1[i] - c2[i]);
         trackhead("AzCmax - DC plot", "Number of data = ", n);
-        ussymbol(trackcolumn(w.JCOL(w.jazcmax), itop), w9, n);
+        trackpoints(trackcolumn(w.JCOL(w.jazcmax), itop), w9, n);
     }
 
     // 3. The calipers, or the one caliper of a "Depth,CAL" table.

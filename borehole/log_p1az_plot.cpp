@@ -55,7 +55,7 @@ void loops(breaktest t, int itop, int ibot) {
         const int np = i - a;
         writef(out, "(1x, 2('|',i5), 2('|',f8.1),'|', i6,'|')", a, last, w.RWD1(a, jdep),
                w.RWD1(last, jdep), np);
-        usline(&w.RWD1(a, JWORK9), &w.RWD1(a, jdep), np);
+        trackline(&w.RWD1(a, JWORK9), &w.RWD1(a, jdep), np);
         if (last >= ibot) break;
         a = i;
     }

@@ -404,7 +404,16 @@ void drawquantity(qty q, int subplot, int i1, int nsel) {
         modulro(ang, w.RWD1.col(col) + (i1 - 1), a.period, a.origin, nsel);
         values = ang;
     }
-    hstadd(values, nsel, h);
+    // Null values of the table (NaN, Inf) belong to no bin: they are left
+    // out here, and counted once, rather than reported one by one.
+    float* kept = w.RWD1.col(JANG) + (i1 - 1);
+    int nkept = 0;
+    for (int i = 0; i < nsel; ++i)
+        if (std::isfinite(values[i])) kept[nkept++] = values[i];
+    if (nkept < nsel)
+        writef(iocom.isout, "(1x,a,1x,i6)", "Number of data left out (not finite) = ",
+               nsel - nkept);
+    hstadd(kept, nkept, h);
     hstcompend(h);
     if (statsaved.lhstlist) {
         int f = h, l = h;

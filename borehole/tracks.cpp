@@ -1,8 +1,9 @@
 // Helpers shared by the track routines.
 #include "borehole/tracks.h"
 
-#include "borehole/derived.h"
+#include <cmath>
 
+#include "borehole/derived.h"
 #include "math/angles.h"
 #include "plot/pages.h"
 #include "plot/symbols.h"
@@ -17,14 +18,44 @@ const trackplace* trackplaceof(std::span<const trackplace> table, int icmd) {
     return nullptr;
 }
 
+trackskip_t trackskip;
+
 float* trackcolumn(int j, int itop) { return welldat.RWD1.col(j) + (itop - 1); }
 
+namespace {
+
+// Hands each run of finite points to draw, and counts the others.
+void finiteruns(const float* x, const float* y, int n, void (*draw)(const float*, const float*,
+                                                                    const int&)) {
+    int start = 0;
+    for (int i = 0; i <= n; ++i) {
+        if (i < n && std::isfinite(x[i]) && std::isfinite(y[i])) continue;
+        const int len = i - start;
+        if (len > 0) draw(x + start, y + start, len);
+        if (i < n) ++trackskip.nleftout;
+        start = i + 1;
+    }
+}
+
+}  // namespace
+
+void trackline(const float* x, const float* y, int n) { finiteruns(x, y, n, usline); }
+
+void trackpoints(const float* x, const float* y, int n) { finiteruns(x, y, n, ussymbol); }
+
 void trackcurve(int j, int itop, int n) {
-    usline(trackcolumn(j, itop), trackcolumn(welldat.JCOL(welldat.jdepth), itop), n);
+    trackline(trackcolumn(j, itop), trackcolumn(welldat.JCOL(welldat.jdepth), itop), n);
 }
 
 void tracksymbols(int j, int itop, int n) {
-    ussymbol(trackcolumn(j, itop), trackcolumn(welldat.JCOL(welldat.jdepth), itop), n);
+    trackpoints(trackcolumn(j, itop), trackcolumn(welldat.JCOL(welldat.jdepth), itop), n);
+}
+
+void trackend() {
+    if (trackskip.nleftout == 0) return;
+    writef(iocom.isout, "(1x,a,1x,i6)", "Number of data left out (not finite) = ",
+           trackskip.nleftout);
+    trackskip.nleftout = 0;
 }
 
 void trackrefline(float x) {
@@ -45,7 +76,7 @@ int trackkept(int keycolumn, int value, int itop, int nsel) {
 }
 
 void trackkeptsymbols(int itop, int count) {
-    if (count >= 1) ussymbol(trackcolumn(JWORK10, itop), trackcolumn(JWORK11, itop), count);
+    if (count >= 1) trackpoints(trackcolumn(JWORK10, itop), trackcolumn(JWORK11, itop), count);
 }
 
 void trackcounts(int nsel, int count) {
@@ -55,6 +86,7 @@ void trackcounts(int nsel, int count) {
 }
 
 void trackhead(std::string_view message, std::string_view counttext, int n) {
+    trackend();
     textline(DASHED);
     textline(message);
     writef(iocom.isout, "(1x,a,1x,i6)", counttext, n);

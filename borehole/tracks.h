@@ -100,6 +100,11 @@ const trackplace* trackplaceof(std::span<const trackplace> table, int icmd);
 
 // Column j of RWD1 from row itop on.
 float* trackcolumn(int j, int itop);
+// n points as a line broken at every point that isn't finite (a null value
+// of the table), and as symbols without those points. Both count the
+// points left out for the track's line of trackend.
+void trackline(const float* x, const float* y, int n);
+void trackpoints(const float* x, const float* y, int n);
 // Rows itop .. itop + n - 1 of column j against depth, as a line.
 void trackcurve(int j, int itop, int n);
 // The same rows as symbols of the type and size in force.
@@ -120,6 +125,17 @@ void trackcounts(int nsel, int count);
 // count with its text ("Number of data = " or "Total number of data = "),
 // a rule.
 void trackhead(std::string_view message, std::string_view counttext, int n);
+
+// Ends the track drawn last: if it left points out, one line says how many.
+// slogbox and trackhead call it for the track before theirs, logplot2 after
+// the last track of a pass.
+void trackend();
+
+// The points the track being drawn has left out so far.
+struct trackskip_t {
+    int nleftout;
+};
+extern trackskip_t trackskip;
 
 // Gives axis set iaxis the range [first, last], as scale and as labels.
 void trackaxisrange(int iaxis, float first, float last);

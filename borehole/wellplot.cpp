@@ -105,6 +105,7 @@ void swellsubplot() {
 
 void slogbox(const int& isubplot, const int& ixaxis, const int& iyaxis, const int& iframe,
              std::string_view label) {
+    trackend();
     // The label stays on the axis set: the next track that takes the set
     // without a label of its own shows it.
     {
