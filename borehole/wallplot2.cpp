@@ -3,9 +3,12 @@
 // so that a curve of 15000 points needs no allocation.
 #include "borehole/wallplot2.h"
 
+#include <algorithm>
+#include <cmath>
 #include <string>
 
 #include "borehole/derived.h"
+#include "borehole/tracks.h"
 #include "borehole/wellplot.h"
 #include "math/angles.h"
 #include "plot/attributes.h"
@@ -28,6 +31,9 @@ namespace {
 constexpr int JAZ = 9, JRAD = 10, JZ = 11, JX = 12, JY = 13, JPX = 14, JPY = 15;
 constexpr int ILOOP = 1, ISAT = 2;
 constexpr int NARC = 90;  // points of a bit size half circle
+// Tics of one scale at most, whatever the settings: a depth typed with
+// digits too many would otherwise fill the disk with tics.
+constexpr int MAXWALLTICS = 500;
 
 struct wallsaved_t {
     fstr<40> fplotw;  // plot file name
@@ -230,7 +236,7 @@ void section_curve(int j1, int n) {
     rt2xy(x, y, &R(j1, JRAD), &R(j1, JAZ), n);
     for (int i = 0; i < n; ++i) y[i] = -y[i];
     projxyzn(&R(j1, JPX), &R(j1, JPY), x, y, &R(j1, JZ), n);
-    usline(&R(j1, JPX), &R(j1, JPY), n);
+    trackline(&R(j1, JPX), &R(j1, JPY), n);
 }
 
 // Two points at radii r1 and r2 on one azimuth (radians) and one Z,
@@ -248,6 +254,38 @@ void radial_pair(farr<float, 2>& px, farr<float, 2>& py, float r1, float r2, flo
 }
 
 float depth_to_z(float depth) { return -(depth - ws.zplot0) * ws.zscalew; }
+
+// The step of the depth tics: the one set, or a whole multiple of it that
+// keeps the tics within bounds, with a warning.
+float depth_step(float ztop, float zbot) {
+    const float n = (zbot - ztop) / ws.zincw;
+    if (!(ws.zincw > 0.0f) || !(n > float(MAXWALLTICS))) return ws.zincw;
+    const float step = std::isfinite(n) ? ws.zincw * std::ceil(n / float(MAXWALLTICS))
+                                        : (zbot / float(MAXWALLTICS) - ztop / float(MAXWALLTICS));
+    warninghead(VB_WALLPLOT2);
+    textline("Too many depth tics:");
+    realline("Ztop =", ztop);
+    realline("Zbot =", zbot);
+    realline("depth increment =", ws.zincw);
+    realline("=> RESET increment =", step);
+    warningtail00();
+    return step;
+}
+
+// The number of azimuth tics, at most the bound, with a warning when the
+// settings ask for more (or for none that can be counted).
+int azimuth_tics() {
+    const float n = (ws.azlastw - ws.azfirstw) / ws.azincw + 0.1f;
+    if (n < float(MAXWALLTICS)) return n > -1.0f ? int(n) + 1 : 0;
+    warninghead(VB_WALLPLOT2);
+    textline("Too many azimuth tics:");
+    realline("first azimuth =", ws.azfirstw);
+    realline("last azimuth =", ws.azlastw);
+    realline("increment =", ws.azincw);
+    intline("=> DRAWING ONLY", MAXWALLTICS + 1);
+    warningtail00();
+    return MAXWALLTICS + 1;
+}
 
 // Command 100.
 void plot(bool ldata) {
@@ -300,7 +338,9 @@ void plot(bool ldata) {
             float& az = R(i, JAZ);
             int& loop = I(i, ILOOP);
             az = R(i, jp1az) + turn;
-            loop = int(az / 180.0f);
+            // A null value (NaN) stays in half turn 0 and is left out when drawn.
+            const float half = std::trunc(az / 180.0f);
+            loop = std::fabs(half) < 1.0e9f ? int(half) : 0;
             if (az < 0.0f) loop -= 1;
             az = az - 180.0f * float(loop) + ws.azshift;
             R(i, JZ) = depth_to_z(R(i, jdep));
@@ -343,7 +383,7 @@ void plot(bool ldata) {
                     float* py = &R(j1, JPY);
                     int nout = 0;
                     extractxy(px, py, nout, px, py, &I(j1, ISAT), m, markkey);
-                    if (nout > 0) ussymbol(px, py, nout);
+                    if (nout > 0) trackpoints(px, py, nout);
                 }
             }
             j1 = j2 + 1;
@@ -361,10 +401,10 @@ void plot(bool ldata) {
                 px(2) = px(1);
                 py(2) = py(1);
             }
-            usline(px.data(), py.data(), 2);
+            trackline(px.data(), py.data(), 2);
             const int s = I(i, ISAT);
             if ((ws.icsatw == 1 && s == 1) || (ws.icsatw == 2 && s == 0))
-                ussymbol(px.data(), py.data(), 1);
+                trackpoints(px.data(), py.data(), 1);
         }
         restore_attributes(old, iwork);
     }
@@ -386,18 +426,21 @@ void plot(bool ldata) {
     if (ws.lazframe) {
         stextalign(iwork, 3);
         const float r1 = (ws.rtic0w + 1.0f) * h, r2 = (ws.rtic0w + 1.0f + ws.rticlw) * h;
+        const float step = depth_step(p.ztop, p.zbot);
         farr<float, 2> px, py;
         for (int k = 1; k <= 2; ++k) {
             const float t = rad(float(k - 1) * 180.0f + ws.azshift);
             // Without a positive step the tics would never end.
-            if (ws.zincw <= 0.0f) break;
-            for (float d = p.ztop; d <= p.zbot; d += ws.zincw) {
+            if (step <= 0.0f) break;
+            for (int j = 0; j <= MAXWALLTICS; ++j) {
+                const float d = p.ztop + float(j) * step;
+                if (!(d <= p.zbot)) break;
                 radial_pair(px, py, r1, r2, t, depth_to_z(d));
                 usline(px.data(), py.data(), 2);
                 int just = k == 1 ? -5 : -7;
                 stextalign(just, 1);
                 const float xl = px(2) + (k == 1 ? ws.dlabelw : -ws.dlabelw);
-                ustext2(xl, py(2), integtext(int(d)));
+                ustext2(xl, py(2), integtext(int(std::clamp(d, -2.0e9f, 2.0e9f))));
             }
         }
     }
@@ -405,7 +448,7 @@ void plot(bool ldata) {
     // Azimuth tics, inward at the top and outward at the bottom, whether
     // the frame is drawn or not.
     {
-        const int nt = int((ws.azlastw - ws.azfirstw) / ws.azincw + 0.1f) + 1;
+        const int nt = azimuth_tics();
         farr<float, 2> px, py;
         for (int k = 1; k <= 2; ++k) {
             const float ra = k == 1 ? (1.0f - ws.atic0w) * h : (ws.atic0w + 1.0f) * h;
@@ -419,6 +462,7 @@ void plot(bool ldata) {
             }
         }
     }
+    trackend();
     stextalign(iwork, 1);
 }
 
