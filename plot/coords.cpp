@@ -154,7 +154,7 @@ void sus2cm1(float& xcm0, float& ycm0, float& xx, float& xy, float& yx, float& y
         }
         if (mode_talks(inter)) mus2cm1(xcm0, ycm0, xx, xy, yx, yy);
         if (!invertible(xx, xy, yx, yy) || !std::isfinite(xcm0) || !std::isfinite(ycm0)) {
-            refused_map("sus2cm1", xx, xy, yx, yy);
+            refused_map("sus2cm1    ", xx, xy, yx, yy);
             return;
         }
         plt1blk.US0TOCM(1, k) = xcm0;
@@ -190,7 +190,7 @@ void sus2cm2(float& xcm0, float& ycm0, float& xu0, float& yu0, float& xx, float&
         if (mode_talks(inter)) mus2cm2(xcm0, ycm0, xu0, yu0, xx, xy, yx, yy);
         if (!invertible(xx, xy, yx, yy) || !std::isfinite(xcm0) || !std::isfinite(ycm0) ||
             !std::isfinite(xu0) || !std::isfinite(yu0)) {
-            refused_map("sus2cm2", xx, xy, yx, yy);
+            refused_map("sus2cm2    ", xx, xy, yx, yy);
             return;
         }
         plt1blk.USMINTOCM(1, k) = xcm0;
@@ -246,7 +246,7 @@ void sus2cm3(float& xcm0, float& ycm0, float& xlcm, float& ylcm, float& xumin, f
         if (!invertible(xx, 0.0f, 0.0f, yy) || !std::isfinite(xcm0) || !std::isfinite(ycm0) ||
             !std::isfinite(xumin) || !std::isfinite(yumin) || !std::isfinite(xumax) ||
             !std::isfinite(yumax)) {
-            refused_map("sus2cm3", xx, 0.0f, 0.0f, yy);
+            refused_map("sus2cm3    ", xx, 0.0f, 0.0f, yy);
             return;
         }
         plt1blk.USEXTR(1, k) = xumin;

@@ -132,6 +132,70 @@ TEST_F(LogMenu, ADepthIntervalOutsideTheDataLeavesABlankPageAndTriesAgain) {
     EXPECT_GT(occurrences(file.substr(page2), "lineto"), 8000);
 }
 
+TEST_F(LogMenu, NullValuesBreakTheCurvesAreCountedOncePerTrackAndNeverPause) {
+    // 300 rows of the sample well with null values as field files have them.
+    {
+        std::ifstream in(sample("well200.txt"));
+        std::ofstream out("nulls.txt");
+        std::string l;
+        for (int i = -2; i < 300 && std::getline(in, l); ++i) {
+            std::vector<std::string> f;
+            std::istringstream fs(l);
+            for (std::string v; std::getline(fs, v, '\t');) f.push_back(v);
+            const std::pair<int, const char*> bad[] = {{2, "NaN"}, {2, "NaN"}, {5, "nan"},
+                                                       {1, "NaN"}, {3, "Inf"}, {4, "-Inf"}};
+            for (int k = 0; k < 6; ++k)
+                if (i == 50 + 40 * k) f[std::size_t(bad[k].first)] = bad[k].second;
+            if (i == 51) f[2] = "NaN";
+            for (const auto& v : f) out << v << '\t';
+            out << '\n';
+        }
+    }
+    type({"100", "200", "99", "1000", "nulls.txt", "99", "99", "1000", "99"});
+    run([] { readwell2(2); });
+    wellpara.ztop = 1800.f;
+    wellpara.zbot = 1850.f;
+    clear();
+    iocom.lpause = true;  // a frame would ask for a return the script doesn't give
+    menu({"301", "", "", "320", "", "20", "", "99"});
+    // Rows 50 and 51: C1; 90: C1; 130: DEVI; 170: P1Az; 210: C2; 250: RB.
+    const std::pair<std::string, int> counts[] = {
+        {" X-Section plot", 4}, {" C12 plot", 4}, {" DEVI plot", 1}, {" RB plot", 1},
+        {" C1-C2 plot", 4}, {" Cmin-BS plot", 3}, {" DC plot", 4}};
+    auto starting = [&](const std::string& head, int from) {
+        for (int k = from; k < int(screen().size()); ++k)
+            if (screen()[std::size_t(k)].starts_with(head)) return k;
+        return -1;
+    };
+    const std::string leftout = " Number of data left out (not finite) = ";
+    for (const auto& [track, n] : counts) {
+        const int k = find(track);
+        ASSERT_GT(k, 0) << track;
+        // The line closes the track: after its head, before the next one.
+        const int left = starting(leftout, k), next = starting(" Number of data = ", k + 2);
+        ASSERT_GT(left, k) << track;
+        EXPECT_TRUE(next < 0 || left < next) << track;
+        EXPECT_EQ(screen()[std::size_t(left)], leftout + "      " + std::to_string(n)) << track;
+    }
+    EXPECT_EQ(starting(leftout, find(" HAZI plot")), starting(leftout, find(" RB plot")));
+    EXPECT_EQ(find(" HIT RETURN"), -1);
+    const std::string file = ps();
+    EXPECT_EQ(file.find("NaN"), std::string::npos);
+    EXPECT_EQ(file.find("Inf"), std::string::npos);
+    EXPECT_GS_RENDERS("log.ps");
+}
+
+TEST_F(LogMenu, EqualDepthsTakeNoPageAndTheMenuGoesOn) {
+    read("210");
+    wellpara.zbot = wellpara.ztop;
+    menu({"301", "99"});
+    const int k = find(" Depth interval of zero size:");
+    ASSERT_GT(k, 4);
+    EXPECT_EQ(lines(k - 4, 4), warning_head_lines("  logplot2   "));
+    EXPECT_EQ(lines(k + 1, 3), (lines_t{" Ztop =   2000.0    ", " Zbot =   2000.0    ", " => SKIPPING PLOT"}));
+    EXPECT_FALSE(std::filesystem::exists("log.ps"));
+}
+
 // A text of a page and the point it was moved to.
 struct text_at {
     float x, y;

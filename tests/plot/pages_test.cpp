@@ -1,4 +1,6 @@
 // Pages, subplots, maps and lines, seen in the plot file and on the screen.
+#include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -182,4 +184,46 @@ TEST_F(pages, NewPageAddsAPageOrStartsANewFile) {
     EXPECT_EQ(book[book.size() - 2], "%%Pages:   2");
     EXPECT_GS_RENDERS("book.ps");
     EXPECT_GS_RENDERS("Next_plot");
+}
+
+TEST_F(pages, AMapOfZeroOrNonFiniteSizeIsRefusedAndTheSubplotKeepsItsOwn) {
+    int n = 3;
+    ssubplot(n, 1);
+    float good[8] = {2, 2, 10, 10, 0, 5, 0, 20};  // xcm0 ycm0 xlcm ylcm xumin xumax yumin yumax
+    int ixy = 0;
+    sus2cm3(good[0], good[1], good[2], good[3], good[4], good[5], good[6], good[7], ixy, 1);
+    const auto kept = plt1blk.USTOCM(3);
+    struct Case {
+        int field;
+        float value;
+    } cases[] = {{3, 0.f}, {2, 0.f}, {7, 0.f}, {5, 0.f}, {5, 1e-38f}, {7, INFINITY}, {0, NAN}};
+    for (const auto& c : cases) {
+        con.screen.clear();
+        float v[8];
+        std::copy(good, good + 8, v);
+        v[c.field] = c.value;
+        sus2cm3(v[0], v[1], v[2], v[3], v[4], v[5], v[6], v[7], ixy, 1);
+        EXPECT_EQ(plt1blk.USTOCM(3).a[3], kept.a[3]) << c.field << " " << c.value;
+        EXPECT_EQ(plt1blk.USEXTR(4, 3), 20.f);
+        const auto at = std::find(con.screen.begin(), con.screen.end(),
+                                  " Box or scale of zero or non-finite size:");
+        ASSERT_NE(at, con.screen.end()) << c.field << " " << c.value;
+        EXPECT_EQ(*(at - 7), " ***          subroutine   sus2cm3              ***");
+        EXPECT_EQ(*(at + 3), " ===> NO ACTION: SUBPLOT KEEPS ITS MAP");
+    }
+    // A length of 0 typed into the panel: refused the same way, no stop.
+    con.screen.clear();
+    con.type("y");
+    for (const char* a : {"", "", "", "", "", "", "", "0", ""}) con.type(a);
+    sus2cm3(good[0], good[1], good[2], good[3], good[4], good[5], good[6], good[7], ixy, 2);
+    EXPECT_TRUE(screen_has(" Box or scale of zero or non-finite size:"));
+    EXPECT_EQ(plt1blk.CMAXLENGTH(2, 3), 10.f);
+    // The other two setters refuse a singular matrix alike.
+    float xcm0 = 1, ycm0 = 1, xu0 = 0, yu0 = 0, xx = 1, xy = 2, yx = 2, yy = 4;
+    sus2cm2(xcm0, ycm0, xu0, yu0, xx, xy, yx, yy, 1);
+    sus2cm1(xcm0, ycm0, xx, xy, yx, yy, 1);
+    EXPECT_EQ(std::count(con.screen.begin(), con.screen.end(),
+                         " Box or scale of zero or non-finite size:"),
+              3);
+    EXPECT_EQ(plt1blk.USTOCM(3).a[3], kept.a[3]);
 }

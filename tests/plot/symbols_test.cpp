@@ -58,6 +58,8 @@ TEST_F(symbols, ShapesOfEveryType) {
     EXPECT_EQ(circle[6], "283.03 289.15 lineto");  // 5 steps of 18.95 degrees
     EXPECT_EQ(circle[20], circle[1].substr(0, 14) + "lineto");
     for (int other : {0, 2, 18, 19, 41, 1000}) EXPECT_EQ(symbol(other), circle) << other;
+    // The most negative type is a filled unknown type, as its neighbour is.
+    EXPECT_EQ(symbol(-2147483647 - 1), symbol(-2147483647));
     for (int t = 3; t <= 9; ++t) {
         lines_t l = symbol(t);
         ASSERT_EQ(l.size(), std::size_t(t + 3)) << t;
