@@ -184,6 +184,26 @@ TEST_F(WallMenu, CirclesEveryIncrementAndTheAlignmentAfterThePage) {
     }
 }
 
+TEST_F(WallMenu, NullValuesLeaveGapsAndADepthTypedTooLongKeepsTheTicsBounded) {
+    load({10, 20, NAN, 40, 50, 60, 70});
+    w.RWD1(5, w.JCOL(w.jc1)) = NAN;
+    wellpara.zbot = 20400000.0f;
+    menu({"100", "0", "3", "", "20", "", "99"});
+    const int k = find(" Too many depth tics:");
+    ASSERT_GT(k, 4);
+    EXPECT_EQ(lines(k - 4, 4), warning_head_lines("  wallplot   "));
+    EXPECT_EQ(screen()[std::size_t(k + 4)], " => RESET increment =   40800.    ");
+    EXPECT_EQ(count(" Too many depth tics:"), 1);
+    EXPECT_EQ(count(" Number of data left out (not finite) =       6"), 1);
+    const std::string file = ps();
+    EXPECT_EQ(file.find("NaN"), std::string::npos);
+    int numbers = 0;  // the depth numbers: 500 a side, 40800 m apart
+    for (auto k = file.find("\n("); k != std::string::npos; k = file.find("\n(", k + 1))
+        numbers += std::isdigit((unsigned char)file[k + 2]) != 0;
+    EXPECT_EQ(numbers, 2 * 500);
+    EXPECT_GS_RENDERS("wellpers.ps");
+}
+
 // Marks on the far wall and at the tip of each spike, on the saturated or
 // the unsaturated samples.
 TEST_F(WallMenu, SaturationMarksFallOnTheChosenSamples) {
