@@ -155,6 +155,23 @@ TEST_F(StatMenu, EntryComputationsAndHistogramsAgainstADirectCount) {
 }
 
 // The breakout at 2091 to 2183 m has its long axis at 65 degrees.
+TEST_F(StatMenu, NullValuesAreLeftOutOfTheHistogramsOnceCountedAndNeverPause) {
+    read(2000.f, 2200.f);
+    welldat_t& w = welldat;
+    int i1 = 1;
+    while (w.RWD1(i1, 1) < 2000.f) ++i1;
+    w.RWD1(i1 + 5, w.JCOL(w.jc1)) = NAN;
+    w.RWD1(i1 + 6, w.JCOL(w.jc1)) = INFINITY;
+    w.RWD1(i1 + 7, w.JCOL(w.jhazi)) = -INFINITY;
+    iocom.lpause = true;  // a frame would ask for a return the script doesn't give
+    menu({"110", "", "", "99"});
+    // C1 and DC lose two values each, HAZI one; the other histograms none.
+    EXPECT_EQ(count(" Number of data left out (not finite) =       2"), 2);
+    EXPECT_EQ(count(" Number of data left out (not finite) =       1"), 1);
+    EXPECT_EQ(find(" ===> HIT RETURN TO CONTINUE"), -1);
+    EXPECT_EQ(ps().find("NaN"), std::string::npos);
+}
+
 TEST_F(StatMenu, AzCmaxStatisticsFindTheBreakoutAxis) {
     read(2092.f, 2182.f);
     menu({"400", "51", "0", "400", "99"});
