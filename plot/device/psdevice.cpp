@@ -82,6 +82,55 @@ void colour_line(int i, std::string_view op = "setrgbcolor") {
            op);
 }
 
+// The text of a PostScript string, into out. Plain printable ASCII other
+// than the three delimiters stays as it is. UTF-8 letters of Latin-1 become
+// their Latin-1 code (for a font re-encoded to ISOLatin1Encoding), other
+// UTF-8 characters '?', and a byte that is no part of a UTF-8 sequence is
+// taken as Latin-1 already. Returns true if a byte above 127 was written.
+bool string_text(std::string& out, std::string_view text, bool utf8) {
+    out.clear();
+    bool high = false;
+    auto octal = [&out](unsigned c) {
+        const char e[4] = {'\\', char('0' + (c >> 6)), char('0' + ((c >> 3) & 7)),
+                           char('0' + (c & 7))};
+        out.append(e, 4);
+    };
+    auto cont = [&text](std::size_t k) {
+        return k < text.size() && (unsigned char)(text[k]) >> 6 == 2;
+    };
+    for (std::size_t k = 0; k < text.size(); ++k) {
+        unsigned c = (unsigned char)text[k];
+        if (c >= 32 && c < 127) {
+            if (c == '(' || c == ')' || c == '\\') out += '\\';
+            out += char(c);
+            continue;
+        }
+        if (c < 128 || !utf8) {
+            high = high || c >= 128;
+            octal(c);
+            continue;
+        }
+        const std::size_t len = c >= 0xC2 && c <= 0xDF   ? 2
+                                : c >= 0xE0 && c <= 0xEF ? 3
+                                : c >= 0xF0 && c <= 0xF4 ? 4
+                                                         : 0;
+        bool whole = len > 0;
+        for (std::size_t j = 1; whole && j < len; ++j) whole = cont(k + j);
+        if (!whole) {
+            high = true;
+            octal(c);
+        } else if (len == 2 && c <= 0xC3) {
+            high = true;
+            octal(((c & 0x1F) << 6) | ((unsigned char)text[k + 1] & 0x3F));
+            k += 1;
+        } else {
+            out += '?';
+            k += len - 1;
+        }
+    }
+    return high;
+}
+
 void fill_tables() {
     psparams_90.iunitps = UNIT_PLOT;
     psparams_90.NAMSIZE(1) = "Portrait A4";
@@ -420,16 +469,26 @@ void detext2(float& x, float& y, std::string_view text) {
     intg2char(size, nsize, 12, int(psparams_90.textsizeps));
     int ifont = psparams_90.ifontps;
     if (ifont < 1 || ifont > 16) ifont = 1;
-    writef(u, "(a,5(1x,a))", size.sub(1, nsize), trimmed(psparams_90.FONTS(ifont)),
-           "findfont exch scalefont setfont");
+    // Escaped rather than written as it stands: one unbalanced parenthesis
+    // in a title would make the whole file unreadable. Symbol fonts keep
+    // their own encoding and take the bytes as they are.
+    static std::string str;
+    const bool latin1 = string_text(str, t, ifont <= 12) && ifont <= 12;
+    if (latin1)
+        writef(u, "(a,5(1x,a))", size.sub(1, nsize), trimmed(psparams_90.FONTS(ifont)),
+               "findfont dup length dict copy dup /FID undef dup /Encoding ISOLatin1Encoding put",
+               "/Latin1Text exch definefont exch scalefont setfont");
+    else
+        writef(u, "(a,5(1x,a))", size.sub(1, nsize), trimmed(psparams_90.FONTS(ifont)),
+               "findfont exch scalefont setfont");
 
     psrgbcolor(3);
 
     const int m = ajust % 4;
     if (m == 0 || m == 1) {
-        writef(u, "('(',a,')',1x,a)", t, "show");
+        writef(u, "('(',a,')',1x,a)", str, "show");
     } else {
-        writef(u, "('(',a,')')", t);
+        writef(u, "('(',a,')')", str);
         writef(u, "(a,1x,i2,1x,a)", "dup stringwidth pop", m - 4, "div 0 rmoveto");
         ps("show");
     }

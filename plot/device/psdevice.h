@@ -64,7 +64,9 @@ void deline(float* x, float* y, const int& n);
 // One closed polygon, filled when the fill style asks, always outlined.
 void depolygon(float* x, float* y, const int& n);
 // One string at a device point, with the justification, angle, font, size
-// and colour in force. The text is written as it stands.
+// and colour in force. Parentheses and backslashes are escaped and other
+// bytes than printable ASCII written in octal; a string holding letters
+// beyond ASCII takes its font re-encoded to Latin-1.
 void detext2(float& x, float& y, std::string_view text);
 
 // Strokes any open path and writes setlinewidth (width in points).

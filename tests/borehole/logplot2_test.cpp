@@ -19,6 +19,7 @@
 #include "plot/attributes.h"
 #include "plot/ghostscript.h"
 #include "plot/pages.h"
+#include "plot/plot_session.h"
 #include "shell/fake_platform.h"
 #include "well/well_fixture.h"
 
@@ -210,8 +211,7 @@ std::vector<std::vector<text_at>> page_texts(const std::string& file) {
         if (l.starts_with("%%Page:")) pages.emplace_back();
         if (l.ends_with(" moveto")) std::sscanf(l.c_str(), "%f %f", &x, &y);
         if (pages.empty() || !l.starts_with("(")) continue;
-        const auto close = l.rfind(')');
-        pages.back().push_back({x, y, l.substr(1, close - 1)});
+        pages.back().push_back({x, y, shown_text(l)});
     }
     return pages;
 }
@@ -359,6 +359,28 @@ TEST_F(LogMenu, TheDemoJobRunsToItsEnd) {
     const std::string file = ps();
     EXPECT_EQ(occurrences(file, "%%Page:"), 3);
     EXPECT_EQ(occurrences(file, " 595    0 translate 90 rotate"), 1);  // landscape A4
+    EXPECT_GS_RENDERS("log.ps");
+}
+
+TEST_F(LogMenu, ATitleWithParenthesesBackslashesAndAccentsShowsAsTyped) {
+    {
+        std::ifstream in(sample("well210.txt"));
+        std::ofstream out("forest (copy).txt");
+        std::string line;
+        std::getline(in, line);
+        std::getline(in, line);
+        out << " 'For\xc3\xaat well (real \\ data'\n"
+            << " 'Depth' 'P1Az (deg' 'C1 (cm)' 'C2 \\ cm' 'RB' 'DEVI' 'HAZI' 'AzCmax \xc2\xb0'\n";
+        for (int i = 0; i < 500 && std::getline(in, line); ++i) out << line << '\n';
+    }
+    type({"100", "210", "99", "1000", "forest (copy).txt", "99", "99", "1000", "99"});
+    run([] { readwell2(2); });
+    wellpara.ztop = 2000.f;
+    wellpara.zbot = 2070.f;
+    menu({"301", "", "", "20", "", "99"});
+    const std::string file = ps();
+    EXPECT_EQ(occurrences(file, "(Title: For\\352t well \\(real \\\\ data"), 1);
+    EXPECT_EQ(occurrences(file, "(File name: forest \\(copy\\).txt"), 1);
     EXPECT_GS_RENDERS("log.ps");
 }
 

@@ -332,3 +332,34 @@ TEST(device_numbers, NumberTextIsTheGeneralConversionWithTwoDecimals) {
         EXPECT_EQ(numtext(v), std::string(ref.sub(1, n))) << v;
     }
 }
+
+TEST_F(device, StringsAreEscapedAndLettersBeyondAsciiTakeALatin1Font) {
+    open_format(1, "esc.ps");
+    const std::string plain = "14 /Helvetica findfont exch scalefont setfont";
+    const std::string latin1 =
+        "14 /Helvetica findfont dup length dict copy dup /FID undef dup /Encoding "
+        "ISOLatin1Encoding put /Latin1Text exch definefont exch scalefont setfont";
+    const struct {
+        int font;
+        const char* text;
+        std::string font_line, show_line;
+    } cases[] = {
+        {1, "Alberta well (real", plain, "(Alberta well \\(real) show"},
+        {1, "C1 (mm) C:\\logs", plain, "(C1 \\(mm\\) C:\\\\logs) show"},
+        {1, "tab\there", plain, "(tab\\011here) show"},
+        {1, "For\xc3\xaat \xc3\x9f", latin1, "(For\\352t \\337) show"},  // UTF-8
+        {1, "Caf\xe9 \xc3", latin1, "(Caf\\351 \\303) show"},             // Latin-1, a cut sequence
+        {1, "5 \xe2\x82\xac", plain, "(5 ?) show"},                        // beyond Latin-1
+        {13, "\xc3\xaa", "14 /Symbol findfont exch scalefont setfont", "(\\303\\252) show"},
+    };
+    float x = 100, y = 700;
+    for (const auto& c : cases) {
+        int font = c.font;
+        stextfont(font, 1);
+        y -= 40;
+        detext2(x, y, c.text);
+        EXPECT_EQ(slice(new_lines(), 1, 2), (lines_t{c.font_line, c.show_line})) << c.text;
+    }
+    close_plot();
+    EXPECT_GS_RENDERS("esc.ps");
+}

@@ -21,6 +21,14 @@
 #include "shell/sio.h"
 #include "shell/units.h"
 
+// The text of a string line of the plot file, "(...)" or "(...) show", as
+// the page shows it: "\\(" is "(" and "\\\\" is "\\".
+inline std::string shown_text(const std::string& line) {
+    std::string t;
+    for (std::size_t k = 1, e = line.rfind(')'); k < e; ++k) t += line[k] == '\\' ? line[++k] : line[k];
+    return t;
+}
+
 class plot_session : public Dialogue {
 protected:
     std::size_t mark = 0;  // lines of the plot file already looked at
@@ -79,7 +87,7 @@ protected:
     static std::vector<std::string> strings(const std::vector<std::string>& file) {
         std::vector<std::string> v;
         for (const auto& l : file)
-            if (!l.empty() && l.front() == '(') v.push_back(l.substr(1, l.rfind(')') - 1));
+            if (!l.empty() && l.front() == '(') v.push_back(shown_text(l));
         return v;
     }
     bool screen_has(std::string_view line) const { return count(con.screen, line) > 0; }

@@ -315,7 +315,7 @@ struct PlotRunInfo : plot_session {
             if (l.ends_with(" moveto")) point = l.substr(0, l.size() - 7);
             if (l.ends_with(" findfont exch scalefont setfont")) v.size = l.substr(0, l.find(' '));
             if (l.starts_with("(")) {
-                v.texts.push_back(l.substr(1, l.rfind(')') - 1));
+                v.texts.push_back(shown_text(l));
                 v.points.push_back(point);
             }
         }
