@@ -1,7 +1,8 @@
 #include "plot/device/psdevice.h"
 
-#include <charconv>
+#include <array>
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -235,24 +236,54 @@ void file_head() {
 
 }  // namespace
 
+namespace {
+
+// The integer digit count of the width rule, trunc(log10(x)) + 1 for x >= 1,
+// as the 4-byte logarithm has always given it: it steps up a few units in
+// the last place below each power of ten, at these values. Counted against
+// them, the plot files stay byte for byte what they were. Past the last
+// step the text has no room for decimals anyway.
+constexpr float DIGIT_STEPS[] = {0x1.4p+3f,     0x1.8ffffcp+6f, 0x1.f3ffecp+9f, 0x1.387ffap+13f,
+                                 0x1.869fecp+16f, 0x1.e847dap+19f, 0x1.312ce8p+23f, 0x1.7d783p+26f};
+
+constexpr auto DIGIT_PAIRS = [] {
+    std::array<char, 200> a{};
+    for (int k = 0; k < 100; ++k) {
+        a[std::size_t(2 * k)] = char('0' + k / 10);
+        a[std::size_t(2 * k + 1)] = char('0' + k % 10);
+    }
+    return a;
+}();
+
+int digit_count(float x) {
+    int m = 1;
+    for (float step : DIGIT_STEPS) {
+        if (x < step) break;
+        ++m;
+    }
+    return m;
+}
+
+}  // namespace
+
 int psnumtext(char* text, float value) {
     // The width is worked out from the value, as real2charf1 does, so that
     // no blank is written: 2 decimals, at most 10 characters.
     constexpr int maximum = NUMTEXT;
+    constexpr float t = 0.01f + 1e-07f;  // 10^-2 + 1e-7, in 4-byte arithmetic
     int d = 2;
-    const float t = std::pow(10.f, float(-d)) + 1e-07f;
     const float low = value - t, high = value + t;
     int m = 1, count = 0;
     bool sized = true;
     if (high <= -1.f) {
-        m = int(std::log(std::fabs(low)) * 0.4342945f) + 1;
+        m = digit_count(-low);
         count = m + d + 2;
     } else if (value < 0.f) {
         count = d + 3;
     } else if (low < 1.f) {
         count = d + 2;
     } else if (low >= 1.f) {
-        m = int(std::log(std::fabs(high)) * 0.4342945f) + 1;
+        m = digit_count(high);
         count = m + d + 1;
     } else {
         sized = false;  // NaN
@@ -270,19 +301,45 @@ int psnumtext(char* text, float value) {
         std::memcpy(text, f.c, std::size_t(n));
         return n;
     }
-    // to_chars rounds the exact value as printf does, at a fraction of the
-    // cost: this runs for every point of every curve.
-    char buf[64];
-    auto r = std::to_chars(buf, buf + sizeof buf - 1, double(value), std::chars_format::fixed, d);
-    int n = int(r.ptr - buf);
-    if (d == 0) buf[n++] = '.';
-    if (r.ec != std::errc() || n > count) {
+    // This runs for every point of every curve, so no formatting call: the
+    // value is below 10^8 here, and its 24-bit mantissa times 100 is exact
+    // in a double, so rounding that product to an integer, ties to even,
+    // rounds the exact value as a formatted write does.
+    const double scaled = std::fabs(double(value)) * (d == 2 ? 100.0 : d == 1 ? 10.0 : 1.0);
+    std::uint64_t q = std::uint64_t(scaled);
+    const double rest = scaled - double(q);
+    if (rest > 0.5 || (rest == 0.5 && (q & 1) != 0)) ++q;
+    // Built leftwards from the middle of a blank buffer, two digits a step;
+    // the field is then the count characters that end there.
+    char buf[2 * NUMTEXT + 12];
+    std::memset(buf, ' ', sizeof buf);
+    char* const end = buf + NUMTEXT + 6;
+    char* p = end;
+    auto pair = [&p](unsigned k) {
+        p -= 2;
+        std::memcpy(p, &DIGIT_PAIRS[2 * k], 2);
+    };
+    if (d == 2) {
+        pair(unsigned(q % 100));
+        q /= 100;
+    } else if (d == 1) {
+        *--p = char('0' + q % 10);
+        q /= 10;
+    }
+    *--p = '.';
+    auto whole = std::uint32_t(q);  // below 10^8
+    for (; whole >= 100; whole /= 100) pair(whole % 100);
+    if (whole >= 10)
+        pair(whole);
+    else
+        *--p = char('0' + whole);
+    if (std::signbit(value)) *--p = '-';
+    if (end - p > count) {
         // As a fixed-field write does with a value too wide for its field.
         std::memset(text, '*', std::size_t(count));
         return count;
     }
-    std::memset(text, ' ', std::size_t(count - n));
-    std::memcpy(text + (count - n), buf, std::size_t(n));
+    std::memcpy(text, end - count, NUMTEXT);
     return count;
 }
 

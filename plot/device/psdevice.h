@@ -78,5 +78,6 @@ void intstextsize(const float& height);
 
 // The number text of the plot file: the value with two decimals in the
 // narrowest field that holds it, at most 10 characters, as "0.50" or
-// "-12.25". Writes into text (at least 10 characters) and returns the count.
+// "-12.25". Writes into text (at least 10 characters, those past the count
+// left as scratch) and returns the count.
 int psnumtext(char* text, float value);

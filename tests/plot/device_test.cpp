@@ -1,7 +1,12 @@
 // The PostScript device as the plot file shows it: heads, pages, paths,
 // fills, strings, line widths, the coordinate limit, the page format file.
+#include <bit>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <fstream>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -362,4 +367,77 @@ TEST_F(device, StringsAreEscapedAndLettersBeyondAsciiTakeALatin1Font) {
     }
     close_plot();
     EXPECT_GS_RENDERS("esc.ps");
+}
+
+// The number text as the device first built it, with the logarithm and a
+// formatting call.
+std::string numtext_formatted(float value) {
+    int d = 2;
+    const float t = std::pow(10.f, float(-d)) + 1e-07f;
+    const float low = value - t, high = value + t;
+    int m = 1, count = 0;
+    if (high <= -1.f) {
+        m = int(std::log(std::fabs(low)) * 0.4342945f) + 1;
+        count = m + d + 2;
+    } else if (value < 0.f) {
+        count = d + 3;
+    } else if (low < 1.f) {
+        count = d + 2;
+    } else if (low >= 1.f) {
+        m = int(std::log(std::fabs(high)) * 0.4342945f) + 1;
+        count = m + d + 1;
+    } else {
+        return numtext(value);  // NaN: both take the general routine
+    }
+    if (count > 10) {
+        count = 10;
+        d = 10 - m - 2;
+    }
+    if (d < 0) return numtext(value);
+    char buf[64];
+    auto r = std::to_chars(buf, buf + 63, double(value), std::chars_format::fixed, d);
+    std::string s(buf, r.ptr);
+    if (d == 0) s += '.';
+    if (int(s.size()) > count) return std::string(std::size_t(count), '*');
+    return std::string(std::size_t(count) - s.size(), ' ') + s;
+}
+
+TEST(device_numbers, NumberTextIsWhatTheFormattingCallGaveForEveryKindOfFloat) {
+    // Infinities, NaN and the huge values go to the general routine, which
+    // says so on the console.
+    memory_console con;
+    console_scope scope(con);
+    const bool pause = iocom.lpause;
+    iocom.lpause = false;
+    std::vector<float> values;
+    auto around = [&values](float v, int ulps) {
+        float a = v, b = v;
+        for (int k = 0; k < ulps; ++k) {
+            values.push_back(a), values.push_back(-a), values.push_back(b), values.push_back(-b);
+            a = std::nextafter(a, 0.f), b = std::nextafter(b, 3e38f);
+        }
+    };
+    // Where the width steps: powers of ten, and the value on either side of
+    // the width rule's margin.
+    for (float p = 1.f; p < 2e9f; p *= 10.f)
+        for (float v : {p, p - 0.0100001f, p + 0.0100001f, p - 0.005f}) around(v, 3000);
+    // Ties and near-ties of the last decimal: 0.005, 0.015, ... 999.995.
+    for (int k = 1; k < 200000; k += 2) around(float(k) * 0.005f, 2);
+    // Halves of the last decimal where only one or none is left.
+    for (int k = 0; k < 3000; ++k) values.push_back(-1000000.f - float(k) * 0.0625f);
+    // A stride through the bit patterns of the values a plot holds, and a
+    // few it should not.
+    for (std::uint64_t b = 0; b < (1ull << 32); b += 4093) {
+        const float v = std::bit_cast<float>(std::uint32_t(b));
+        if (std::fabs(v) < 2e8f) values.push_back(v);
+    }
+    for (float v : {9.995f, 99.995f, 999.995f, 0.125f, -0.375f, -0.0f, 1e9f, -3e38f,
+                    std::numeric_limits<float>::quiet_NaN()})
+        values.push_back(v);
+    int wrong = 0;
+    for (float v : values)
+        if (numtext(v) != numtext_formatted(v) && ++wrong <= 10)
+            ADD_FAILURE() << std::hexfloat << v << ": " << numtext(v) << " | " << numtext_formatted(v);
+    EXPECT_EQ(wrong, 0) << "of " << values.size();
+    iocom.lpause = pause;
 }
