@@ -23,17 +23,13 @@ void terminal_console::put_line(std::string_view line) {
 }
 
 std::string terminal_console::get_line() {
-    std::string line;
-    int ch;
-    bool any = false;
-    while ((ch = std::fgetc(stdin)) != EOF) {
-        any = true;
-        if (ch == '\n') return line;
-        line.push_back(char(ch));
-    }
+    static char* buf = nullptr;
+    static std::size_t size = 0;
     // A last line without its end still counts as typed.
-    if (any) return line;
-    throw console_closed{"end of standard input"};
+    ssize_t n = getline(&buf, &size, stdin);
+    if (n <= 0) throw console_closed{"end of standard input"};
+    if (buf[n - 1] == '\n') --n;
+    return std::string(buf, std::size_t(n));
 }
 
 std::string memory_console::get_line() {

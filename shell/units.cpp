@@ -2,22 +2,51 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <map>
 #include <memory>
 #include <string>
 
 namespace {
 
+// Plot files run to megabytes in lines of a few bytes: the stream works
+// through a large buffer of ours, and lines are taken whole from it.
+constexpr std::size_t BUFFER_SIZE = std::size_t(1) << 16;
+
 struct file_unit {
     std::FILE* f = nullptr;
     std::string name;
     bool can_read = false;
     bool can_write = false;
+    std::unique_ptr<char[]> buffer;  // the stream's; lives until it is closed
+    char* line = nullptr;            // the last line read, grown by getline
+    std::size_t line_size = 0;
+
+    file_unit() = default;
+    file_unit(const file_unit&) = delete;
+    file_unit& operator=(const file_unit&) = delete;
+    ~file_unit() {
+        if (f) std::fclose(f);
+        std::free(line);
+    }
 };
 
-std::map<int, file_unit>& table() {
-    static std::map<int, file_unit> t;
-    return t;
+std::map<int, file_unit> units;
+
+// The unit last looked up: a plot is written a line at a time, all to the
+// same unit. Cleared whenever a unit is closed.
+int last_number = 0;
+file_unit* last_unit = nullptr;
+
+std::map<int, file_unit>& table() { return units; }
+
+file_unit* find_unit(int unit) {
+    if (last_unit && last_number == unit) return last_unit;
+    auto it = units.find(unit);
+    if (it == units.end()) return nullptr;
+    last_number = unit;
+    last_unit = &it->second;
+    return last_unit;
 }
 
 bool is_console(int unit) { return unit == UNIT_KEYBOARD || unit == UNIT_SCREEN; }
@@ -68,6 +97,8 @@ bool unit_open(int unit, std::string_view name_in, std::string_view status_in,
     }
     std::FILE* f = std::fopen(name.c_str(), mode);
     if (!f) return false;
+    auto buffer = std::make_unique<char[]>(BUFFER_SIZE);
+    std::setvbuf(f, buffer.get(), _IOFBF, BUFFER_SIZE);
     // A directory opens with fopen on Linux; it is not a file for us.
     if (std::fseek(f, 0, SEEK_END) != 0 && errno == EISDIR) {
         std::fclose(f);
@@ -80,6 +111,7 @@ bool unit_open(int unit, std::string_view name_in, std::string_view status_in,
     }
     auto& u = table()[unit];
     u.f = f;
+    u.buffer = std::move(buffer);
     u.name = name;
     u.can_read = rd;
     u.can_write = wr;
@@ -90,7 +122,7 @@ void unit_close(int unit) {
     auto& t = table();
     auto it = t.find(unit);
     if (it == t.end()) return;
-    if (it->second.f) std::fclose(it->second.f);
+    last_unit = nullptr;
     t.erase(it);
 }
 
@@ -116,42 +148,36 @@ std::string unit_name(int unit) {
 
 bool unit_read(int unit, std::string& rec) {
     rec.clear();
-    auto& t = table();
-    auto it = t.find(unit);
-    if (it == t.end()) {
+    file_unit* found = find_unit(unit);
+    if (!found) {
         if (is_console(unit)) {
             rec = the_console().get_line();
             return true;
         }
         return false;
     }
-    file_unit& u = it->second;
+    file_unit& u = *found;
     if (!u.can_read || !u.f) return false;
-    int ch;
-    bool any = false;
-    while ((ch = std::fgetc(u.f)) != EOF) {
-        any = true;
-        if (ch == '\n') break;
-        rec.push_back(char(ch));
-    }
-    if (!any) return false;
+    ssize_t n = getline(&u.line, &u.line_size, u.f);
+    if (n <= 0) return false;
+    if (u.line[n - 1] == '\n') --n;
     // Tables written on other systems end their lines with CR LF.
-    if (!rec.empty() && rec.back() == '\r') rec.pop_back();
+    if (n > 0 && u.line[n - 1] == '\r') --n;
+    rec.assign(u.line, std::size_t(n));
     return true;
 }
 
 void unit_write(int unit, std::string_view rec) {
-    auto& t = table();
-    auto it = t.find(unit);
-    if (it == t.end()) {
+    file_unit* found = find_unit(unit);
+    if (!found) {
         // The screen, and any unit not opened on a file, is the console.
         the_console().put_line(rec);
         return;
     }
-    file_unit& u = it->second;
+    file_unit& u = *found;
     if (!u.can_write || !u.f) return;
-    std::fwrite(rec.data(), 1, rec.size(), u.f);
-    std::fputc('\n', u.f);
+    fwrite_unlocked(rec.data(), 1, rec.size(), u.f);
+    putc_unlocked('\n', u.f);
 }
 
 void unit_flush(int unit) {
@@ -161,8 +187,6 @@ void unit_flush(int unit) {
 }
 
 void units_reset() {
-    auto& t = table();
-    for (auto& [n, u] : t)
-        if (u.f) std::fclose(u.f);
-    t.clear();
+    last_unit = nullptr;
+    units.clear();
 }
