@@ -51,6 +51,23 @@ bool parse_real(std::string_view s, T& out) {
     std::size_t i = 0;
     bool neg = false;
     if (i < s.size() && (s[i] == '+' || s[i] == '-')) neg = s[i++] == '-';
+    // Data lines hold plain decimals: those go to the converter as they
+    // stand. Anything else, or a value out of range, takes the long way.
+    std::size_t k = i;
+    bool dot = false, digit = false;
+    for (; k < s.size(); ++k) {
+        if (is_digit(s[k])) digit = true;
+        else if (s[k] == '.' && !dot) dot = true;
+        else break;
+    }
+    if (k == s.size() && digit) {
+        T v{};
+        auto r = std::from_chars(s.data() + i, s.data() + k, v);
+        if (r.ec == std::errc() && r.ptr == s.data() + k) {
+            out = neg ? -v : v;
+            return true;
+        }
+    }
     std::string_view rest = s.substr(i);
     if (iequal(rest, "inf") || iequal(rest, "infinity")) {
         out = neg ? -std::numeric_limits<T>::infinity() : std::numeric_limits<T>::infinity();
@@ -141,8 +158,11 @@ bool store(const litem& it, std::string_view text) {
 
 class list_reader {
 public:
-    // With a source, records come from it; without, rec is all there is.
-    list_reader(record_source* src, std::string_view rec) : src_(src), rec_(rec) {}
+    // With a source, records come from it into own, which is kept from one
+    // read to the next so that reading a table does not allocate per line;
+    // without, rec is all there is.
+    list_reader(record_source* src, std::string* own, std::string_view rec)
+        : src_(src), own_(own), rec_(rec) {}
 
     bool read(std::span<const litem> items) {
         int repeat = 0;          // items still to get the last r* value
@@ -195,15 +215,16 @@ public:
 
 private:
     record_source* src_;
+    std::string* own_;
     std::string_view rec_;
-    std::string own_, text_;
+    std::string text_;
     std::size_t pos_ = 0;
 
     bool at_end() const { return pos_ >= rec_.size(); }
 
     bool next_record() {
-        if (!src_ || !src_->next(own_)) return false;
-        rec_ = own_;
+        if (!src_ || !src_->next(*own_)) return false;
+        rec_ = *own_;
         pos_ = 0;
         return true;
     }
@@ -284,11 +305,12 @@ bool list_read(record_source& src, std::span<const litem> items) {
         std::string rec;
         return src.next(rec);
     }
-    return list_reader(&src, {}).read(items);
+    static std::string own;
+    return list_reader(&src, &own, {}).read(items);
 }
 
 bool list_read_str(std::string_view rec, std::span<const litem> items) {
-    return list_reader(nullptr, rec).read(items);
+    return list_reader(nullptr, nullptr, rec).read(items);
 }
 
 bool list_read_unit(int unit, std::span<const litem> items) {
