@@ -101,20 +101,6 @@ void menu(bool lupdate) {
     menutail();
 }
 
-// Command 11.
-void orientation() {
-    menurule();
-    textline("N.B. Exchanging Landscape for Portrait ");
-    textline("     will reset all subplots scaling");
-    menurule();
-    bool landscape = wellplot.llandscape;
-    int ierr = 0;
-    inlogicdef(landscape, "Use Landscape(1) or Portrait(0) A4", wellplot.llandscape, ierr);
-    if (landscape != wellplot.llandscape) {
-        wellplot.llandscape = landscape;
-        swellsubplot();
-    }
-}
 
 // Command 15: the box every track draws through.
 void boxsetup() {
@@ -284,7 +270,7 @@ void logplot2(const int& intera) {
         if (icmd >= 100 && icmd <= 500) scmndinfo(icmd);
 
         switch (icmd) {
-        case 11: orientation(); break;
+        case 11: swellorientation("Use Landscape(1) or Portrait(0) A4", true); break;
         case 13: swellplot(2); break;
         case 15: boxsetup(); break;
         case 16: ssymboltype(s.isymlog, 2); break;

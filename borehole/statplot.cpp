@@ -216,19 +216,6 @@ void menu() {
     line("EXIT ..................................99");
 }
 
-void orientation() {
-    rule();
-    line("N.B. Exchanging Landscape for Portrait ");
-    line("     will reset all subplots scaling");
-    rule();
-    bool landscape = wellplot.llandscape;
-    int ierr = 0;
-    inlogicdef(landscape, "to use Landscape(1) or Portrait(0) A4", wellplot.llandscape, ierr);
-    if (landscape != wellplot.llandscape) {
-        wellplot.llandscape = landscape;
-        swellsubplot();
-    }
-}
 
 std::string depthtext(float v) {
     fstr<9> t;
@@ -492,7 +479,7 @@ void statplot(const int& intera) {
         ininteg1(icmd, "your choice", ierr);
 
         switch (icmd) {
-        case 11: orientation(); break;
+        case 11: swellorientation("to use Landscape(1) or Portrait(0) A4", true); break;
         case 13: swellplot(2); break;
         case 32: {
             int isw = 1;

@@ -199,17 +199,6 @@ void modifyscaling() {
     }
 }
 
-void orientation() {
-    int ierr = 0;
-    textline("N.B. Exchanging Landscape for Portrait ");
-    textline("     will reset all subplots scaling");
-    bool land = wellplot.llandscape;
-    inlogicdef(land, "to use Landscape(1) or Portrait(0) A4", wellplot.llandscape, ierr);
-    if (land != wellplot.llandscape) {
-        wellplot.llandscape = land;
-        swellsubplot();
-    }
-}
 
 }  // namespace
 
@@ -243,7 +232,7 @@ void swellplot(const int& intera) {
         inintegdef(choice, "your choice", 99, ierr);
         switch (choice) {
         case 10: modifyscaling(); break;
-        case 11: orientation(); break;
+        case 11: swellorientation("to use Landscape(1) or Portrait(0) A4", false); break;
         case 15: splotattributes(0); break;
         case 20: snaxis(0); break;
         case 50: showlayouts(); break;

@@ -106,20 +106,6 @@ void menu() {
     textline("EXIT ..................................99");
 }
 
-// Command 11.
-void orientation() {
-    menurule();
-    textline("N.B. Exchanging Landscape for Portrait ");
-    textline("     will reset all subplots scaling");
-    menurule();
-    bool landscape = wellplot.llandscape;
-    int ierr = 0;
-    inlogicdef(landscape, "to use Landscape(1) or Portrait(0) A4", wellplot.llandscape, ierr);
-    if (landscape != wellplot.llandscape) {
-        wellplot.llandscape = landscape;
-        swellsubplot();
-    }
-}
 
 // Command 12: the fixed scale of subplot 1.
 void localscaling() {
@@ -495,7 +481,7 @@ void wallplot2(const int& intera) {
             ssubplot(one, 1);
             break;
         }
-        case 11: orientation(); break;
+        case 11: swellorientation("to use Landscape(1) or Portrait(0) A4", true); break;
         case 12: localscaling(); break;
         case 13: swellplot(2); break;
         case 14: {

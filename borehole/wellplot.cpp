@@ -5,6 +5,9 @@
 #include "borehole/tracks.h"
 #include "plot/axes/axes.h"
 #include "plot/pages.h"
+#include "shell/menus.h"
+#include "shell/prompts.h"
+#include "shell/sio.h"
 
 wellplot_t wellplot;
 
@@ -52,6 +55,20 @@ void frameborders(int iframe, int& left, int& right) {
 }
 
 }  // namespace
+
+void swellorientation(std::string_view question, bool rules) {
+    if (rules) menurule();
+    textline("N.B. Exchanging Landscape for Portrait ");
+    textline("     will reset all subplots scaling");
+    if (rules) menurule();
+    bool land = wellplot.llandscape;
+    int ierr = 0;
+    inlogicdef(land, question, wellplot.llandscape, ierr);
+    if (land != wellplot.llandscape) {
+        wellplot.llandscape = land;
+        swellsubplot();
+    }
+}
 
 void swellsubplot() {
     const bool land = wellplot.llandscape;

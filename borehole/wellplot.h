@@ -48,6 +48,11 @@ inline constexpr version_block VB_SWELLPLOT{"swellplot  ", " 9.0", "2020-10-19"}
 // Builds all subplots 1 to 37 for the orientation in wellplot.llandscape.
 void swellsubplot();
 
+// Command 11 of the plot menus: asks for the page orientation of the
+// layouts and builds every subplot again if it changes. The menus word the
+// question each their own way; some set the note between rules.
+void swellorientation(std::string_view question, bool rules);
+
 // 4 or 5 initialise wellplot, the subplots and the axis sets; an even
 // value shows the layout menu (4 after initialising).
 void swellplot(const int& intera);
