@@ -7,11 +7,27 @@
 #include <memory>
 #include <string>
 
+#include <sys/stat.h>
+
 namespace {
 
 // Plot files run to megabytes in lines of a few bytes: the stream works
 // through a large buffer of ours, and lines are taken whole from it.
 constexpr std::size_t BUFFER_SIZE = std::size_t(1) << 16;
+
+// Which file a name stands for, whatever the path or link that reached it.
+struct file_id {
+    dev_t dev = 0;
+    ino_t ino = 0;
+    bool known = false;
+    bool operator==(const file_id& o) const { return known && o.known && dev == o.dev && ino == o.ino; }
+};
+
+file_id id_of(const std::string& name) {
+    struct stat st;
+    if (::stat(name.c_str(), &st) != 0) return {};
+    return {st.st_dev, st.st_ino, true};
+}
 
 struct file_unit {
     std::FILE* f = nullptr;
@@ -21,6 +37,7 @@ struct file_unit {
     std::unique_ptr<char[]> buffer;  // the stream's; lives until it is closed
     char* line = nullptr;            // the last line read, grown by getline
     std::size_t line_size = 0;
+    file_id id;
 
     file_unit() = default;
     file_unit(const file_unit&) = delete;
@@ -47,6 +64,31 @@ file_unit* find_unit(int unit) {
     last_number = unit;
     last_unit = &it->second;
     return last_unit;
+}
+
+// The file last opened on each unit, open or closed since, and the one held.
+std::map<int, file_id>& last_opened() {
+    static std::map<int, file_id> t;
+    return t;
+}
+file_id held;
+
+// A file the run has loaded or holds open on a unit is never written over:
+// a plot named like the well file would destroy it.
+bool guarded(const std::string& name) {
+    file_id id = id_of(name);
+    if (!id.known) return false;
+    if (id == held) return true;
+    for (auto& [n, u] : table())
+        if (u.id == id) return true;
+    return false;
+}
+
+// Whatever was written so far reaches the disk before the run waits on the
+// keyboard: a run killed at a prompt keeps every finished page.
+void flush_all() {
+    for (auto& [n, u] : table())
+        if (u.can_write && u.f) std::fflush(u.f);
 }
 
 bool is_console(int unit) { return unit == UNIT_KEYBOARD || unit == UNIT_SCREEN; }
@@ -80,10 +122,16 @@ bool unit_open(int unit, std::string_view name_in, std::string_view status_in,
     bool rd = action.empty() || action == "read" || action == "readwrite";
     bool wr = action.empty() || action == "write" || action == "readwrite";
 
+    // Old files are inputs: a blank action reads only, so a file the user
+    // may read but not write (shared, archived) still opens.
+    if (status == "old" && action.empty()) wr = false;
+    // A file that would be written must not be one the run reads.
+    if (wr && status != "new" && guarded(name)) return false;
+
     const char* mode = nullptr;
     if (status == "old") {
         if (!exists(name)) return false;
-        mode = wr ? (rd ? "r+" : "r+") : "r";
+        mode = wr ? "r+" : "r";
     } else if (status == "new") {
         if (exists(name)) return false;
         mode = rd ? "w+" : "w";
@@ -115,7 +163,15 @@ bool unit_open(int unit, std::string_view name_in, std::string_view status_in,
     u.name = name;
     u.can_read = rd;
     u.can_write = wr;
+    struct stat st;
+    if (::fstat(fileno(f), &st) == 0) u.id = {st.st_dev, st.st_ino, true};
+    last_opened()[unit] = u.id;
     return true;
+}
+
+void unit_hold(int unit) {
+    auto it = last_opened().find(unit);
+    held = it == last_opened().end() ? file_id{} : it->second;
 }
 
 void unit_close(int unit) {
@@ -151,6 +207,7 @@ bool unit_read(int unit, std::string& rec) {
     file_unit* found = find_unit(unit);
     if (!found) {
         if (is_console(unit)) {
+            flush_all();
             rec = the_console().get_line();
             return true;
         }
@@ -170,8 +227,9 @@ bool unit_read(int unit, std::string& rec) {
 void unit_write(int unit, std::string_view rec) {
     file_unit* found = find_unit(unit);
     if (!found) {
-        // The screen, and any unit not opened on a file, is the console.
-        the_console().put_line(rec);
+        // A file unit that isn't open (a plot whose open failed) writes
+        // nowhere rather than into the dialogue.
+        if (is_console(unit)) the_console().put_line(rec);
         return;
     }
     file_unit& u = *found;
@@ -189,4 +247,6 @@ void unit_flush(int unit) {
 void units_reset() {
     last_unit = nullptr;
     units.clear();
+    last_opened().clear();
+    held = {};
 }

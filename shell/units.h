@@ -22,12 +22,17 @@ constexpr int UNIT_TEMP = 99;
 // Opens a file on a unit. status: "old" (must exist), "new" (must not
 // exist), "replace" (created or truncated), "unknown" (opened for reading
 // and writing if it exists, created otherwise; written from its start).
-// action: "read", "write" or "readwrite" (blank means readwrite).
-// A unit already open is closed first. Returns false if the file can't be
-// opened; the unit is then closed.
+// action: "read", "write" or "readwrite" (blank means readwrite, but only
+// read for "old"). A unit already open is closed first. Returns false if
+// the file can't be opened, and for a write over a file that is open on
+// another unit or held (unit_hold); the unit is then closed.
 bool unit_open(int unit, std::string_view name, std::string_view status,
                std::string_view action);
 void unit_close(int unit);
+// Holds the file last opened on unit (the well file loaded) against being
+// written over, in place of the one held before; a unit that never opened
+// a file releases the hold.
+void unit_hold(int unit);
 // Closes the unit and removes its file.
 void unit_close_delete(int unit);
 bool unit_is_open(int unit);
@@ -35,10 +40,12 @@ bool unit_is_open(int unit);
 std::string unit_name(int unit);
 
 // Reads one record (a line without its end). False at the end of the file,
-// for a unit not open or not readable. Unit 5 reads the console; a console
-// that has gone away raises console_closed (see shell/console.h).
+// for a unit not open or not readable. Unit 5 reads the console, after
+// every file written is flushed; a console that has gone away raises
+// console_closed (see shell/console.h).
 bool unit_read(int unit, std::string& rec);
-// Writes one record. Units 5 and 6 write to the console.
+// Writes one record. Units 5 and 6 write to the console; a line for a
+// file unit that isn't open is dropped.
 void unit_write(int unit, std::string_view rec);
 void unit_flush(int unit);
 

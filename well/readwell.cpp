@@ -128,6 +128,7 @@ void read_file(int& pid, int& pidx) {
         warningtail00();
         return;
     }
+    unit_hold(WELL_UNIT);
     const int id = w.IDTYPWD(w.itypwd);
     if (id == 100 || id == 110 || id == 200 || id == 210) read_summary();
 }

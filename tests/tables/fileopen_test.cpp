@@ -1,6 +1,12 @@
 // Opening named files: the dialogue, retry, giving up.
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <filesystem>
 #include <fstream>
 
@@ -75,6 +81,49 @@ TEST_F(FileOpen, OpefTwoAsksUntilANameOpensAndStopsWithoutDialogue) {
     EXPECT_THROW(opef2(name, "data", 12, "old", 2), program_stop);
     EXPECT_GT(find(" ===> STOPPING EXECUTION"), 0);
     EXPECT_GT(find("                    &&&&&&&&&&&&            "), 0);
+}
+
+
+// A file the user may read but not write: chmod for a user, the immutable
+// flag for root, whom modes don't stop.
+bool make_unwritable(const char* name) {
+    ::chmod(name, 0444);
+    int fd = ::open(name, O_RDWR);
+    if (fd < 0) return true;
+    int flags = 0;
+    if (::ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0) {
+        flags |= FS_IMMUTABLE_FL;
+        ::ioctl(fd, FS_IOC_SETFLAGS, &flags);
+    }
+    ::close(fd);
+    fd = ::open(name, O_RDWR);
+    if (fd < 0) return true;
+    ::close(fd);
+    return false;
+}
+void make_writable(const char* name) {
+    int fd = ::open(name, O_RDONLY);
+    int flags = 0;
+    if (fd >= 0 && ::ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0) {
+        flags &= ~FS_IMMUTABLE_FL;
+        ::ioctl(fd, FS_IOC_SETFLAGS, &flags);
+    }
+    if (fd >= 0) ::close(fd);
+    ::chmod(name, 0644);
+}
+
+TEST_F(FileOpen, AnOldFileThatCannotBeWrittenOpensAndReads) {
+    const bool locked = make_unwritable("fileopen_present.txt");
+    if (!locked) GTEST_SKIP() << "no way to make a file unwritable here";
+    type({"fileopen_present.txt"});
+    opef2(name, "data", 12, "old", 0);
+    std::string rec;
+    const bool read = unit_read(12, rec);
+    unit_close(12);
+    make_writable("fileopen_present.txt");
+    EXPECT_EQ(count(" ===> RETRYING"), 0);
+    EXPECT_TRUE(read);
+    EXPECT_EQ(rec, "x");
 }
 
 }  // namespace
