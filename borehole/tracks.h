@@ -17,6 +17,8 @@
 //   }
 #pragma once
 
+#include <exception>
+
 #include <span>
 #include <string_view>
 
@@ -171,9 +173,17 @@ public:
     explicit scoped_edit(A... a) : Fields(a...) {
         Fields::access(3);
     }
-    ~scoped_edit() { Fields::access(1); }
+    // Storing may warn and wait for the return key, and so end the run
+    // (the console closed): the destructor lets that through. When the run
+    // is already ending, nothing is stored and nobody is asked.
+    ~scoped_edit() noexcept(false) {
+        if (std::uncaught_exceptions() == pending) Fields::access(1);
+    }
     scoped_edit(const scoped_edit&) = delete;
     scoped_edit& operator=(const scoped_edit&) = delete;
+
+private:
+    int pending = std::uncaught_exceptions();
 };
 
 // One axis set (s1axis1).
@@ -213,7 +223,10 @@ class attributekept {
 public:
     using setter = void (*)(T&, const int&);
     explicit attributekept(setter set) : set_(set) { set_(entry_, 3); }
-    ~attributekept() { set_(entry_, 1); }
+    // As scoped_edit: a setter may warn and wait; an ending run sets nothing.
+    ~attributekept() noexcept(false) {
+        if (std::uncaught_exceptions() == pending_) set_(entry_, 1);
+    }
     attributekept(const attributekept&) = delete;
     attributekept& operator=(const attributekept&) = delete;
     // The value found on entry.
@@ -222,4 +235,5 @@ public:
 private:
     setter set_;
     T entry_{};
+    int pending_ = std::uncaught_exceptions();
 };
