@@ -29,18 +29,20 @@ void logdatacheck(farr<int, 2>& jcc, bool& ldata, bool& lcal, bool& lazc, bool& 
     logdataflags(ldata, lcal, lazc, lrb);
     if (ldata) jcc(1) = w.JCOL(w.jc1);
     if (lcal) jcc(2) = w.JCOL(w.jc2);
-    if (!ldata) {
-        errorhead(VB_LOGPLOT2);
-        if (w.IDTYPWD(w.itypwd) == 0) {
-            textline("NO DATA !");
-            textline("===> NEED INPUT DATA FIRST");
-        } else {
-            textline("INCORRECT DATA TYPE");
-            textline("===> NEED CORRECT INPUT DATA");
-        }
-        textline("===> PLOTTING DISABLED");
-        errortail00();
+    if (!ldata) nodataframe(VB_LOGPLOT2);
+}
+
+void nodataframe(const version_block& vb) {
+    errorhead(vb);
+    if (welldat.IDTYPWD(welldat.itypwd) == 0) {
+        textline("NO DATA !");
+        textline("===> NEED INPUT DATA FIRST");
+    } else {
+        textline("INCORRECT DATA TYPE");
+        textline("===> NEED CORRECT INPUT DATA");
     }
+    textline("===> PLOTTING DISABLED");
+    errortail00();
 }
 
 // ---------------------------------------------------------------------------

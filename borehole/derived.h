@@ -63,6 +63,9 @@ inline int csizecode(float cmin, float cmax, float cbslo, float cbshi, float cmi
 // 110, 210), lrb (RB, DEVI, HAZI: 200, 210).
 void logdataflags(bool& ldata, bool& lcal, bool& lazc, bool& lrb);
 
+// The error frame of a plot menu entered without data it can draw.
+void nodataframe(const version_block& vb);
+
 // Step 3 of entering logplot2: the flags, the caliper columns jcc(1) =
 // JCOL(jc1) (with ldata) and jcc(2) = JCOL(jc2) (with lcal), and the error
 // frame "PLOTTING DISABLED" when there is nothing to plot. jcc is left as

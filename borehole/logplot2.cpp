@@ -40,7 +40,6 @@ logsaved_t logsaved{"log.ps", 0, 66, 66, 5, 0.2f};
 
 void menu(bool lupdate) {
     const int out = iocom.isout;
-    welldat_t& w = welldat;
     menublock("PLOT PARAMS                       Command");
     textline("Open plot file ........................10");
     flagline("Landscape(T)/Portrait(F) ..............11", wellplot.llandscape);
@@ -50,9 +49,7 @@ void menu(bool lupdate) {
     textline("Local symbol size .....................17");
     textline("Close plot file .......................20");
     int ilist = 1;
-    dat1astatus1("WELL", w.TYPWDNAM(w.itypwd).sv(), w.IDTYPWD(w.itypwd), w.finwd.sv(),
-                 w.titlewd.sv(), w.ndatwd, MAXDATWD, w.NAMVAR, w.nvarwd, MAXVARWD, w.JCOL.data(),
-                 w.NAMCOL, w.ncolwd, MAXCOLWD, ilist, 1);
+    wellstatus(ilist);
     swellparam(10);
     textline("Change hole parameters ................50");
     menublock("PARAMETERS                        Command");

@@ -115,18 +115,6 @@ struct flags_t {
     bool ldata = false, lcal = false, lazc = false, lrb = false;
 };
 
-void dataerror() {
-    errorhead(VB_STATPLOT);
-    if (welldat.IDTYPWD(welldat.itypwd) == 0) {
-        textline("NO DATA !");
-        textline("===> NEED INPUT DATA FIRST");
-    } else {
-        textline("INCORRECT DATA TYPE");
-        textline("===> NEED CORRECT INPUT DATA");
-    }
-    textline("===> PLOTTING DISABLED");
-    errortail00();
-}
 
 // The data brought up to the calculation level, over all rows: the Cmax
 // index, |DC|, AzCmax where the type lacks it, and RBCmax.
@@ -179,7 +167,6 @@ void entry(flags_t& f) {
 
 void menu() {
     const statsaved_t& s = statsaved;
-    welldat_t& w = welldat;
     rule();
     line("PLOT:");
     textline("plot file name :", s.fplotst);
@@ -192,9 +179,7 @@ void menu() {
     line("modify histogram  .....................32");
     flagline("Histogram list with plot ..............33", s.lhstlist);
     int ilist = 1;
-    dat1astatus1("WELL", w.TYPWDNAM(w.itypwd).sv(), w.IDTYPWD(w.itypwd), w.finwd.sv(),
-                 w.titlewd.sv(), w.ndatwd, MAXDATWD, w.NAMVAR, w.nvarwd, MAXVARWD, w.JCOL.data(),
-                 w.NAMCOL, w.ncolwd, MAXCOLWD, ilist, 1);
+    wellstatus(ilist);
     swellparam(10);
     line("Change hole parameters ................50");
     rule();
@@ -466,7 +451,7 @@ void statplot(const int& intera) {
     ssubinfo2(VB_STATPLOT.name, VB_STATPLOT.version, VB_STATPLOT.date);
     flags_t f;
     logdataflags(f.ldata, f.lcal, f.lazc, f.lrb);
-    if (!f.ldata) dataerror();
+    if (!f.ldata) nodataframe(VB_STATPLOT);
     entry(f);
 
     int icmd = 0, ierr = 0;

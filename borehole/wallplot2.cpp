@@ -72,7 +72,6 @@ void int_item(std::string_view s, int v, std::string_view name = {}) {
 }
 
 void menu() {
-    welldat_t& w = welldat;
     menublock("PLOT PARAMS                       Command");
     textline("Open plot file ........................10");
     flagline("Landscape(T)/Portrait(F) ..............11", wellplot.llandscape);
@@ -81,9 +80,7 @@ void menu() {
     textline("Set projection ........................14");
     textline("Close plot file .......................20");
     int ilist = 1;
-    dat1astatus1("WELL", w.TYPWDNAM(w.itypwd).sv(), w.IDTYPWD(w.itypwd), w.finwd.sv(),
-                 w.titlewd.sv(), w.ndatwd, MAXDATWD, w.NAMVAR, w.nvarwd, MAXVARWD, w.JCOL.data(),
-                 w.NAMCOL, w.ncolwd, MAXCOLWD, ilist, 1);
+    wellstatus(ilist);
     swellparam(10);
     textline("Change hole parameters .....50");
     menublock("PARAMETERS                        Command");

@@ -44,11 +44,8 @@ void print_main_menu() {
     textline("set projection ........................14");
     textline("close plot file .......................20");
     {
-        welldat_t& w = welldat;
         int ilist = 0;
-        dat1astatus1("WELL", w.TYPWDNAM(w.itypwd).sv(), w.IDTYPWD(w.itypwd), w.finwd.sv(),
-                     w.titlewd.sv(), w.ndatwd, MAXDATWD, w.NAMVAR, w.nvarwd, MAXVARWD,
-                     w.JCOL.data(), w.NAMCOL, w.ncolwd, MAXCOLWD, ilist, 1);
+        wellstatus(ilist);
     }
     textline(DASHED);
     textline("WELL DATA COMMANDS");

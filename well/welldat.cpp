@@ -374,3 +374,10 @@ void writedatainfo0(std::string_view label, std::string_view tname, int id, std:
     writef(unit, "(1x,a,1x,i6)", "nb of variables :", nvar);
     writef(unit, "(1x,a,1x,i6)", "nb of data      :", ndata);
 }
+
+void wellstatus(int& ilist) {
+    welldat_t& w = welldat;
+    dat1astatus1("WELL", w.TYPWDNAM(w.itypwd).sv(), w.IDTYPWD(w.itypwd), w.finwd.sv(),
+                 w.titlewd.sv(), w.ndatwd, MAXDATWD, w.NAMVAR, w.nvarwd, MAXVARWD, w.JCOL.data(),
+                 w.NAMCOL, w.ncolwd, MAXCOLWD, ilist, 1);
+}

@@ -54,6 +54,9 @@ void dat1astatus1(std::string_view label, std::string_view tname, int id, std::s
                   std::string_view title, int ndata, int maxdata, fstr_array_ref namvar,
                   int nvar, int maxvar, const int* jcol, fstr_array_ref namcol, int ncol,
                   int maxcol, int& ilist, int intera);
+// The status block of the well loaded, as the menus show it (ilist 1 adds
+// the list of variables and columns).
+void wellstatus(int& ilist);
 
 // The status as header lines of a table.
 void writedatainfo0(std::string_view label, std::string_view tname, int id, std::string_view fin,
