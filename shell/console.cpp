@@ -3,6 +3,8 @@
 #include <cstdio>
 #include <iostream>
 
+#include "shell/linein.h"
+
 namespace {
 terminal_console g_terminal;
 console* g_current = nullptr;
@@ -23,13 +25,12 @@ void terminal_console::put_line(std::string_view line) {
 }
 
 std::string terminal_console::get_line() {
-    static char* buf = nullptr;
-    static std::size_t size = 0;
+    static line_stream input;
+    std::string s;
     // A last line without its end still counts as typed.
-    ssize_t n = getline(&buf, &size, stdin);
-    if (n <= 0) throw console_closed{"end of standard input"};
-    if (buf[n - 1] == '\n') --n;
-    return std::string(buf, std::size_t(n));
+    if (!read_line(stdin, s, input, "standard input"))
+        throw console_closed{"end of standard input"};
+    return s;
 }
 
 std::string memory_console::get_line() {

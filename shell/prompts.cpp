@@ -49,12 +49,20 @@ void not_finite(const version_block& vb, std::string_view t, float v) {
 }
 
 // A record read in "(a)" into a buffer of n characters: cut or blank padded.
-// False when the unit gives no record.
+// False when the unit gives no record. A CR before the line end stays, for
+// the default test: a CR alone is the return key of another system.
 bool read_buffer(std::string& buf, std::size_t n) {
-    if (!unit_read(iocom.isin, buf)) return false;
+    if (!unit_read_raw(iocom.isin, buf)) return false;
     if (buf.size() > n) buf.resize(n);
     buf.append(n - buf.size(), ' ');
     return true;
+}
+
+// The CR that ended a line typed or written on another system is no part of
+// the answer (a file name with it would not open).
+void drop_line_end_cr(std::string& buf) {
+    const std::size_t k = buf.find_last_not_of(' ');
+    if (k != std::string::npos && buf[k] == '\r') buf[k] = ' ';
 }
 
 // The return key, or any answer that starts with a blank, takes the default.
@@ -303,6 +311,7 @@ void inchardef(fstr_ref value, std::string_view text, std::string_view def_in, i
                    "=> use default value");
             value.assign(def);
         } else {
+            drop_line_end_cr(buf);
             value.assign(buf);
         }
         textline("New value =", value.sv());

@@ -9,6 +9,8 @@
 
 #include <sys/stat.h>
 
+#include "shell/linein.h"
+
 namespace {
 
 // Plot files run to megabytes in lines of a few bytes: the stream works
@@ -35,8 +37,8 @@ struct file_unit {
     bool can_read = false;
     bool can_write = false;
     std::unique_ptr<char[]> buffer;  // the stream's; lives until it is closed
-    char* line = nullptr;            // the last line read, grown by getline
-    std::size_t line_size = 0;
+    line_stream lines;
+    bool failed = false;  // a write or flush failed: the file is incomplete
     file_id id;
 
     file_unit() = default;
@@ -44,7 +46,13 @@ struct file_unit {
     file_unit& operator=(const file_unit&) = delete;
     ~file_unit() {
         if (f) std::fclose(f);
-        std::free(line);
+    }
+    // Closes the stream; false if what was written did not all reach the file.
+    bool close() {
+        if (!f) return !failed;
+        const bool ok = std::fclose(f) == 0 && !failed;
+        f = nullptr;
+        return ok;
     }
 };
 
@@ -88,7 +96,7 @@ bool guarded(const std::string& name) {
 // keyboard: a run killed at a prompt keeps every finished page.
 void flush_all() {
     for (auto& [n, u] : table())
-        if (u.can_write && u.f) std::fflush(u.f);
+        if (u.can_write && u.f) u.failed = u.failed || std::fflush(u.f) != 0;
 }
 
 bool is_console(int unit) { return unit == UNIT_KEYBOARD || unit == UNIT_SCREEN; }
@@ -174,12 +182,14 @@ void unit_hold(int unit) {
     held = it == last_opened().end() ? file_id{} : it->second;
 }
 
-void unit_close(int unit) {
+bool unit_close(int unit) {
     auto& t = table();
     auto it = t.find(unit);
-    if (it == t.end()) return;
+    if (it == t.end()) return true;
     last_unit = nullptr;
+    const bool ok = !it->second.can_write || it->second.close();
     t.erase(it);
+    return ok;
 }
 
 void unit_close_delete(int unit) {
@@ -202,7 +212,7 @@ std::string unit_name(int unit) {
     return it == t.end() ? std::string() : it->second.name;
 }
 
-bool unit_read(int unit, std::string& rec) {
+bool unit_read_raw(int unit, std::string& rec) {
     rec.clear();
     file_unit* found = find_unit(unit);
     if (!found) {
@@ -215,33 +225,39 @@ bool unit_read(int unit, std::string& rec) {
     }
     file_unit& u = *found;
     if (!u.can_read || !u.f) return false;
-    ssize_t n = getline(&u.line, &u.line_size, u.f);
-    if (n <= 0) return false;
-    if (u.line[n - 1] == '\n') --n;
+    return read_line(u.f, rec, u.lines, u.name);
+}
+
+bool unit_read(int unit, std::string& rec) {
+    if (!unit_read_raw(unit, rec)) return false;
     // Tables written on other systems end their lines with CR LF.
-    if (n > 0 && u.line[n - 1] == '\r') --n;
-    rec.assign(u.line, std::size_t(n));
+    if (!rec.empty() && rec.back() == '\r') rec.pop_back();
     return true;
 }
 
-void unit_write(int unit, std::string_view rec) {
+bool unit_write(int unit, std::string_view rec) {
     file_unit* found = find_unit(unit);
     if (!found) {
         // A file unit that isn't open (a plot whose open failed) writes
         // nowhere rather than into the dialogue.
         if (is_console(unit)) the_console().put_line(rec);
-        return;
+        return true;
     }
     file_unit& u = *found;
-    if (!u.can_write || !u.f) return;
+    if (!u.can_write || !u.f) return true;
     fwrite_unlocked(rec.data(), 1, rec.size(), u.f);
     putc_unlocked('\n', u.f);
+    // The error shows when the stream's buffer goes out, and stays.
+    u.failed = u.failed || ferror_unlocked(u.f);
+    return !u.failed;
 }
 
-void unit_flush(int unit) {
-    auto& t = table();
-    auto it = t.find(unit);
-    if (it != t.end() && it->second.f) std::fflush(it->second.f);
+bool unit_flush(int unit) {
+    file_unit* found = find_unit(unit);
+    if (!found || !found->f || !found->can_write) return true;
+    file_unit& u = *found;
+    u.failed = u.failed || std::fflush(u.f) != 0;
+    return !u.failed;
 }
 
 void units_reset() {

@@ -28,7 +28,9 @@ constexpr int UNIT_TEMP = 99;
 // another unit or held (unit_hold); the unit is then closed.
 bool unit_open(int unit, std::string_view name, std::string_view status,
                std::string_view action);
-void unit_close(int unit);
+// Closes the unit; false if what was written to it did not all reach the
+// file (disk full, a file system error).
+bool unit_close(int unit);
 // Holds the file last opened on unit (the well file loaded) against being
 // written over, in place of the one held before; a unit that never opened
 // a file releases the hold.
@@ -39,15 +41,21 @@ bool unit_is_open(int unit);
 // The name the unit was opened with (empty for the console or a closed unit).
 std::string unit_name(int unit);
 
-// Reads one record (a line without its end). False at the end of the file,
-// for a unit not open or not readable. Unit 5 reads the console, after
+// Reads one record (a line without its end, CR LF or LF). False at the end
+// of the file, for a unit not open or not readable. Lines longer than
+// LINE_LIMIT are cut (shell/linein.h). Unit 5 reads the console, after
 // every file written is flushed; a console that has gone away raises
 // console_closed (see shell/console.h).
 bool unit_read(int unit, std::string& rec);
+// The same, but a CR before the line end stays: an answer that is a CR
+// alone is a character of its own.
+bool unit_read_raw(int unit, std::string& rec);
 // Writes one record. Units 5 and 6 write to the console; a line for a
-// file unit that isn't open is dropped.
-void unit_write(int unit, std::string_view rec);
-void unit_flush(int unit);
+// file unit that isn't open is dropped. False once a write to the unit's
+// file has failed (the failure is noticed when its buffer goes out).
+bool unit_write(int unit, std::string_view rec);
+// False if the unit's file could not take what was written to it.
+bool unit_flush(int unit);
 
 // Closes every unit but the console (used when a run ends, and by tests).
 void units_reset();

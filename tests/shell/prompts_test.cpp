@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <fstream>
 #include <random>
 
 #include "dialogue.h"
@@ -175,6 +176,29 @@ TEST_F(Prompts, CharacterWithDefault) {
     clear();
     inchardef(name, "data file name", name, e);
     EXPECT_EQ(name, "my_well.txt");
+}
+
+// A script written on another system: its CR is the return key on a line
+// of its own and no part of a name, typed or from a command file alike.
+TEST_F(Prompts, ALineEndingInCarriageReturnTypedOrReplayed) {
+    std::ofstream("answers.txt", std::ios::binary) << "\r\nmy_well.txt\r\n  \r\n";
+    for (bool replayed : {false, true}) {
+        if (replayed) {
+            ASSERT_TRUE(unit_open(UNIT_COMMANDS, "answers.txt", "old", "read"));
+            iocom.isin = UNIT_COMMANDS;
+        } else {
+            type({"\r", "my_well.txt\r", "  \r"});
+        }
+        fstr<20> name = "well.txt", title;
+        int e;
+        inchardef(name, "data file name", name, e);
+        EXPECT_EQ(screen()[4], " ichar =  13 => use default value");
+        inchardef(name, "data file name", name, e);
+        EXPECT_EQ(name.trimmed(), "my_well.txt");
+        inchar1(title, "title", e);
+        EXPECT_EQ(title.trimmed(), "");
+        clear();
+    }
 }
 
 TEST_F(Prompts, CharacterAnswersAreCutAtEightyCharacters) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "dialogue.h"
+#include "shell/linein.h"
 #include "shell/units.h"
 
 namespace {
@@ -25,7 +26,7 @@ Lines read_all(int unit, const std::string& name) {
 struct Units : Dialogue {};
 
 TEST_F(Units, LinesComeBackWholeAndOutputWaitsInALargeBuffer) {
-    const Lines lines{"", "x", std::string(70000, 'a'), "  12.5  7", "", std::string(300, 'b')};
+    const Lines lines{"", "x", std::string(LINE_LIMIT, 'a'), "  12.5  7", "", std::string(300, 'b')};
     ASSERT_TRUE(unit_open(UNIT_PLOT, "one.txt", "replace", "write"));
     ASSERT_TRUE(unit_open(UNIT_TABLES, "two.txt", "replace", "write"));
     for (int k = 0; k < 800; ++k) unit_write(UNIT_TABLES, std::string(70, 'c'));
@@ -54,6 +55,19 @@ TEST_F(Units, CarriageReturnsAndAMissingLastLineEnd) {
     EXPECT_EQ(read_all(UNIT_DATA, "crlf.txt"), (Lines{"a b", "", "c\rd", "last"}));
     std::ofstream("empty.txt");
     EXPECT_TRUE(read_all(UNIT_DATA, "empty.txt").empty());
+}
+
+// A binary file or device given as data: a long line is cut, its rest
+// skipped; a stream with no line end in reach ends there. Said once each.
+TEST_F(Units, OverlongLinesAreCutAndAnEndlessOneEndsTheFile) {
+    std::ofstream("long.txt", std::ios::binary)
+        << std::string(LINE_LIMIT + 5, 'x') << "\nnext\n" << std::string(LINE_LIMIT + 1, 'z')
+        << "\n" << std::string(LINE_LIMIT + LINE_SKIP_LIMIT, 'y') << "\nnever\n";
+    EXPECT_EQ(read_all(UNIT_DATA, "long.txt"),
+              (Lines{std::string(LINE_LIMIT, 'x'), "next", std::string(LINE_LIMIT, 'z'),
+                     std::string(LINE_LIMIT, 'y')}));
+    EXPECT_EQ(screen(), (Lines{" Line longer than 16384 characters cut there, in long.txt",
+                               " No line end within 1048576 characters: the rest is not read"}));
 }
 
 }  // namespace
