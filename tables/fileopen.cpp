@@ -14,6 +14,7 @@ namespace {
 
 constexpr version_block VB_OPEF1{"opef1      ", " 1.1", "2024-05-29"};
 constexpr version_block VB_OPEF2{"opef2               ", " 5.2", "2023-04-25"};
+constexpr version_block VB_WRERRF{"wrerrf     ", " 1.0", "2026-11-23"};
 
 // Steps shared by both routines: the frame, the name, the open. True if the
 // file opened; then fname holds its base name.
@@ -110,4 +111,15 @@ void opef1(fstr_ref fname, std::string_view label, int unit, std::string_view st
         textline("=> Proceeding");
         writef(iocom.isout, "(1x,43('-'))");
     }
+}
+
+void wrerrf(std::string_view label, int unit) {
+    fstr<250> name = unit_name(unit);
+    errorhead(VB_WRERRF);
+    textline("COULD NOT WRITE", trimmed(label), "FILE");
+    name_lines(iocom.isout, name, unit);
+    textline("(disk full, or the file system refused it)");
+    textline("===> FILE CLOSED, WRITING ENDED");
+    errortail00();
+    unit_close(unit);
 }

@@ -16,3 +16,8 @@ void opef1(fstr_ref fname, std::string_view label, int unit, std::string_view st
 // As opef1, but a file that doesn't open is asked for again with inter 0,
 // and stops the run otherwise.
 void opef2(fstr_ref fname, std::string_view label, int unit, std::string_view status, int inter);
+
+// Reports a file that could not take what was written to it (disk full, a
+// file system error) in an error frame, and closes it: what reached the
+// file stays, and the run goes on without it.
+void wrerrf(std::string_view label, int unit);

@@ -287,6 +287,11 @@ int tableblocks(const job& j) {
 }
 
 void report(const job& j, int nsaved) {
+    // A table the disk did not take is reported as such, not as written.
+    if (!j.terminal() && !unit_flush(j.unit)) {
+        wrerrf("output table", j.unit);
+        return;
+    }
     const std::string_view f = j.kind.numformat;
     const std::string_view name = trimmed(j.fout.sv());
     submenuhead(j.kind.vb);
@@ -303,7 +308,6 @@ void report(const job& j, int nsaved) {
         writef(iocom.isout, f, "NUMBER OF SAVED LINES   =", nsaved);
     }
     if (j.ioca == 0 || j.ioca == 2 || j.terminal()) {
-        unit_flush(j.unit);
         textline("OUTPUT FILE", name, "REMAINS OPEN");
     } else {
         unit_close(j.unit);

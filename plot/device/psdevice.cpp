@@ -41,7 +41,11 @@ constexpr float PT2M = 0.00035278f;
 // the operator.
 constexpr int NUMTEXT = 10;
 
-void ps(std::string_view line) { unit_write(psparams_90.iunitps, line); }
+// Unlike the other files, the plot's writes are checked: on a full disk a
+// long plot would otherwise run on, writing nothing, page after page.
+void ps(std::string_view line) {
+    if (!unit_write(psparams_90.iunitps, line)) wrerrf("PostScript plot", psparams_90.iunitps);
+}
 
 // Resets a coordinate past the device limit, with a frame of its own.
 void limit(float& v, bool is_x, const version_block& vb) {
@@ -390,6 +394,7 @@ void intplend() {
     ps("%%Trailer");
     writef(psparams_90.iunitps, "(a,1x,i3)", "%%Pages:", psparams_90.npageps);
     ps("%%EOF");
+    if (!unit_flush(psparams_90.iunitps)) wrerrf("PostScript plot", psparams_90.iunitps);
     unit_close(psparams_90.iunitps);
     textline("The PostScript plot file is closed");
     menutail();

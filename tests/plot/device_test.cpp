@@ -232,6 +232,22 @@ TEST_F(device, LongPolylineGoesOutInThreePaths) {
     EXPECT_GS_RENDERS("long.ps");
 }
 
+// A disk that takes nothing more: one error frame, the file closed, and the
+// drawing runs on to its end writing nowhere.
+TEST_F(device, AFullDiskEndsThePlotFileWithOneErrorFrame) {
+    if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no /dev/full";
+    open_plot("/dev/full");
+    std::vector<float> x(1200, 1.0f), y(1200, 2.0f);
+    for (int k = 0; k < 20; ++k) usline(x.data(), y.data(), 1200);
+    close_plot();
+    EXPECT_EQ(count(" COULD NOT WRITE PostScript plot FILE"), 1);
+    const int k = find(" COULD NOT WRITE PostScript plot FILE");
+    EXPECT_EQ(lines(k + 1, 4), (lines_t{" File name = /dev/full", " for unit =   50",
+                                        " (disk full, or the file system refused it)",
+                                        " ===> FILE CLOSED, WRITING ENDED"}));
+    EXPECT_TRUE(screen_has(" The PostScript plot file is closed"));
+}
+
 TEST_F(device, MovetoModesLineWidthAndLinetoWithoutMove) {
     open_format(1, "mv.ps");
     con.screen.clear();
