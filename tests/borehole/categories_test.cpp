@@ -3,22 +3,15 @@
 // with its pick files through the log menu.
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <map>
-#include <string>
-#include <utility>
-#include <vector>
 
 #include "borehole/tracks.h"
+#include "borehole_fixtures.h"
 #include "plot/attributes.h"
-#include "plot/ghostscript.h"
-#include "shape_fixtures.h"
 
 namespace {
 
-using lines_t = std::vector<std::string>;
 using counts_t = std::vector<std::pair<std::string, int>>;
-const std::string DASH = " -------------------------------------------";
 
 // The class names and retained counts of every count frame on the screen.
 counts_t classcounts(const lines_t& screen) {
@@ -33,10 +26,6 @@ int total(const counts_t& c) {
     int n = 0;
     for (const auto& [name, kept] : c) n += kept;
     return n;
-}
-std::string filetext(const std::string& name) {
-    std::ifstream in(name);
-    return std::string(std::istreambuf_iterator<char>(in), {});
 }
 
 struct ClassPages : ShapeRows {
@@ -91,7 +80,7 @@ TEST_F(ClassPages, TheColouredTrackHasItsLegendAndPutsTheAttributesBack) {
     EXPECT_EQ(draw(357), (counts_t{{"ASE", 0}, {"ADE", 0}}));
     type({""});
     plend();
-    const std::string ps = filetext("rows.ps");
+    const std::string ps = text("rows.ps");
     for (const char* name : {"(R  ) show", "(G  ) show", "(WO ) show", "(AK ) show",
                              "(AR ) show", "(ASE) show", "(ADE) show"})
         EXPECT_NE(ps.find(name), std::string::npos) << name;
@@ -99,10 +88,10 @@ TEST_F(ClassPages, TheColouredTrackHasItsLegendAndPutsTheAttributesBack) {
 }
 
 // The sample well and its pick files through the log menu.
-struct PickPages : ShapeWell {
+struct PickPages : Borehole {
     void SetUp() override {
-        ShapeWell::SetUp();
-        read("well210.txt", "210", 3220.f);
+        Borehole::SetUp();
+        read("210", 0.f, 3220.f);
         sample("well210_BO.txt");
         sample("well210_POW.txt");
     }
@@ -200,7 +189,7 @@ TEST_F(PickPages, AFailedFileSkipsItsTrackOnlyAndAChangedFileShowsOnTheNextPage)
     EXPECT_EQ(count(" Total Number of data   =      2"), 2);
     EXPECT_EQ(count(" Total Number of data   =      3"), 2);
     // Page 1 has neither box; pages 2 and 3 have both.
-    const std::string ps = filetext("log.ps");
+    const std::string ps = text("log.ps");
     const auto page2 = ps.find("\n%%Page:", ps.find("\n%%Page:") + 1);
     EXPECT_EQ(ps.substr(0, page2).find("(BO)"), std::string::npos);
     EXPECT_EQ(ps.substr(0, page2).find("(POW)"), std::string::npos);

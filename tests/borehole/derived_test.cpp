@@ -5,21 +5,14 @@
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
-#include <limits>
 #include <sstream>
-#include <string>
-#include <vector>
 
-#include "borehole/derived.h"
-#include "well/well_fixture.h"
+#include "borehole_fixtures.h"
 
 namespace {
 
-using lines_t = std::vector<std::string>;
 using ints = std::vector<int>;
 using reals_t = std::vector<float>;
-const std::string DASH = " -------------------------------------------";
 const float NaN = std::numeric_limits<float>::quiet_NaN();
 
 struct Row {
@@ -27,12 +20,10 @@ struct Row {
 };
 
 // logplot2's locals and its calls of the two stages.
-struct Derived : WellDialogue {
-    welldat_t& w = welldat;
+struct Derived : Borehole {
     farr<int, 2> jcc{{0, 0}};
     bool ldata = false, lcal = false, lazc = false, lrb = false, lupdate = true;
     int itop = -1, ibot = -1, nsel = -1, ierr = -1;
-
     // A table of the given type, selected whole; bit 20, gauge band [19, 21),
     // C1 saturates at 30 and C2 at 32, cdiff 2.5, RBCmax threshold 10.
     void load(int id, const std::vector<Row>& rows) {
@@ -204,36 +195,21 @@ TEST_F(Derived, WithoutRbTheTestPassesAndWithoutCalipersOnlyTheIntervalIsFound) 
     EXPECT_EQ(codes(IWD_SIZE), (ints{-1, -1}));
 }
 
-TEST_F(Derived, NoDataDisablesPlottingAndSelectsNothing) {
-    type({""});
-    enter();
-    EXPECT_EQ(find(" NO DATA !"), 9);
-    clear();
-    plot();
-    EXPECT_EQ((ints{ierr, itop, ibot, nsel, lupdate}), (ints{0, 1, 0, 0, 0}));
-    EXPECT_EQ(screen(), (lines_t{" COMPUTING:"}));
-}
-
-TEST_F(Derived, ADepthIntervalOutsideTheDataSkipsThePlotAndTriesAgain) {
+// A gap in the data between the bounds: the search fails, the plot is
+// skipped, and the next interval is searched again.
+TEST_F(Derived, AFailedSearchSkipsThePlotAndTriesAgain) {
     load(210, {{10.f, 0.f, 22.f, 21.f, 50.f}, {11.f, 0.f, 22.f, 21.f, 50.f}});
     enter();
-    wellpara.ztop = 20.f;
-    wellpara.zbot = 30.f;
-    type({"", ""});  // the search's own warning, then this one
-    plot();
-    EXPECT_EQ((ints{ierr, itop, ibot, nsel, lupdate}), (ints{2, -1, -1, -1, 1}));
-    EXPECT_GT(find(" DATA OUT OF RANGE"), 0);
-    EXPECT_EQ(count(" Csize & DC tests"), 0);
-    // A gap in the data between the bounds: the search fails.
     wellpara.ztop = 10.2f;
     wellpara.zbot = 10.8f;
-    type({"", ""});
+    type({"", ""});  // the search's own warning, then this one
     clear();
     plot();
     EXPECT_EQ(ierr, 1);
     const int k = find(" INDICES PROBLEM OR FAILED SEARCH");
     ASSERT_GT(k, 0);
     EXPECT_EQ(screen()[std::size_t(k + 1)], " => SKIPPING PLOT");
+    EXPECT_EQ(count(" Csize & DC tests"), 0);
     wellpara.ztop = 0.f;
     wellpara.zbot = 20.f;
     plot();
@@ -258,34 +234,17 @@ TEST_F(Derived, ExtractxyFillsTheWorkColumnsFromItop) {
     EXPECT_EQ(nout, 0);
 }
 
-// ---------------------------------------------------------------------------
-// The main sample well (data/README.md describes its intervals)
-
-struct SampleWell : Derived {
-    void read(const std::string& id) {
-        type({"100", id, "99", "1000", sample("well210.txt"), "99", "99", "1000", "99"});
-        run([] { readwell2(2); });
-        swellparam(5);
-        wellpara.ztop = 2000.f;
-        wellpara.zbot = 3300.f;
-        clear();
-    }
-    int rows(int col, int value, int from, int to) const {
-        return int(std::count(w.IWD1.col(col) + from - 1, w.IWD1.col(col) + to, value));
-    }
-};
-
-TEST_F(SampleWell, CaseOneOneTheClassesOfEachIntervalAndASmallerInterval) {
-    read("210");
+// The main sample well (data/README.md describes its intervals).
+TEST_F(Derived, TheSampleWellsIntervalsTakeTheirClassesAndASmallerIntervalItsRows) {
+    read("210", 2000.f, 3300.f);
     enter();
-    EXPECT_EQ(screen(), (lines_t{DASH, " COMPUTATIONS", DASH, " Total number of data =   8000",
-                                 " DATA WITH C1,C2,P1Az", " CASE 1: AzCmax already defined",
-                                 " CASE 1.1: with RB", "  => Finding Cmax",
-                                 "  => Computing RBCmax"}));
     plot();
     ASSERT_EQ(ierr, 0);
     EXPECT_GT(find(" Total number of data =    8000"), 0);
     EXPECT_GT(find(" Number of data =    8000"), 0);
+    auto rows = [&](int col, int value, int from, int to) {
+        return int(std::count(w.IWD1.col(col) + from - 1, w.IWD1.col(col) + to, value));
+    };
     const int spans[][3] = {{1, 600, 50},     {601, 1200, 60},  {1201, 1800, 50},
                             {1801, 2300, 80}, {2301, 2900, 50}, {2901, 3500, 30},
                             {3501, 4200, 50}, {4201, 4800, 60}, {4801, 5100, 90},
@@ -310,8 +269,8 @@ TEST_F(SampleWell, CaseOneOneTheClassesOfEachIntervalAndASmallerInterval) {
     EXPECT_GT(find(" Number of data =     600"), 0);
 }
 
-TEST_F(SampleWell, ComputedAzCmaxAgreesWithTheFileColumn) {
-    read("200");  // the main well without its AzCmax column
+TEST_F(Derived, ComputedAzCmaxAgreesWithTheFileColumn) {
+    read("200", 2000.f, 3300.f);  // the main well without its AzCmax column
     enter();
     plot();
     std::ifstream in("well210.txt");

@@ -4,49 +4,23 @@
 
 #include <cmath>
 #include <cstdlib>
-#include <fstream>
 #include <sstream>
-#include <string>
 #include <utility>
-#include <vector>
 
-#include "borehole/logplot2.h"
-#include "borehole/wellplot.h"
-#include "math/angles.h"
-#include "plot/attributes.h"
-#include "plot/ghostscript.h"
-#include "plot/pages.h"
-#include "shell/fake_platform.h"
-#include "well/well_fixture.h"
+#include "borehole_fixtures.h"
 
 namespace {
 
-struct LasPages : WellDialogue {
+struct LasPages : Borehole {
     std::vector<std::vector<float>> values;  // RWD1 columns 1 to 7 of each read
 
-    void SetUp() override {
-        WellDialogue::SetUp();
-        use_fake_platform();
-        smaininfo2("tarnolix            ", "12.3", "2024-09-14");
-        iocom.lpause = false;
-    }
-    void TearDown() override {
-        iocom.lplotopen = false;
-        runinfo_platform = runinfo_platform_default();
-        WellDialogue::TearDown();
-    }
     // Pages 301 and 320 of the well read with read_keys, from a fresh start,
     // as the lines of each page.
-    std::vector<std::vector<std::string>> pages(std::initializer_list<std::string> read_keys,
+    std::vector<lines_t> pages(std::initializer_list<std::string> read_keys,
                                                 bool las) {
-        swellparam(5);
-        int id = 0;
-        wdtype(id, 5);
-        trigoset();
         plt1blk = plt1blk_t{};
-        splotattributes(5);
-        swellplot(5);
-        logplot2(5);
+        tarnolix_startup(false);
+        iocom.lpause = false;
         type(read_keys);
         run([] { readwell2(2); });
         EXPECT_EQ(welldat.ndatwd, 1200);
@@ -61,7 +35,7 @@ struct LasPages : WellDialogue {
             plend();
         });
         std::ifstream in("log.ps");
-        std::vector<std::vector<std::string>> pages;
+        std::vector<lines_t> pages;
         for (std::string l; std::getline(in, l);) {
             if (l.rfind("%%Page:", 0) == 0) pages.emplace_back();
             if (!pages.empty()) pages.back().push_back(l);

@@ -4,23 +4,13 @@
 
 #include <algorithm>
 #include <cmath>
-#include <string>
-#include <vector>
 
 #include "borehole/rotation.h"
 #include "borehole/tracks.h"
-#include "borehole/wellplot.h"
-#include "math/angles.h"
-#include "plot/attributes.h"
+#include "borehole_fixtures.h"
 #include "plot/axes/axes.h"
-#include "plot/ghostscript.h"
-#include "plot/pages.h"
-#include "well/well_fixture.h"
 
 namespace {
-
-using lines_t = std::vector<std::string>;
-const std::string DASH = " -------------------------------------------";
 
 TEST(Rotation, UnwrapTakesTheShorterWayRound) {
     struct row {
@@ -132,22 +122,10 @@ TEST(Rotation, RatesAreMinusTheSlopeOfTheTurningAzimuth) {
     EXPECT_FALSE(std::isfinite(rotv[0]));
 }
 
-struct RotPage : WellDialogue {
-    welldat_t& w = welldat;
+struct RotPage : Borehole {
     void SetUp() override {
-        WellDialogue::SetUp();
-        iocom.lpause = false;
-        trigoset();
-        plt1blk = plt1blk_t{};
-        splotattributes(5);
-        swellplot(5);
-        type({""});
-        fstr<40> name = "rot.ps";
-        plinit(name, 5);
-    }
-    void TearDown() override {
-        iocom.lplotopen = false;
-        WellDialogue::TearDown();
+        Borehole::SetUp();
+        open_plot("rot.ps");
     }
     // n rows of type 200 half a metre apart, P1Az falling 10 degrees a row:
     // a rotation of +20 deg/m.

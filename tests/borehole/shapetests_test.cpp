@@ -3,24 +3,17 @@
 // with its extracted tables and rendered pages.
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <map>
 #include <set>
-#include <string>
-#include <utility>
-#include <vector>
 
 #include "borehole/shaperules.h"
 #include "borehole/tracks.h"
-#include "plot/ghostscript.h"
+#include "borehole_fixtures.h"
 #include "shell/format.h"
-#include "shape_fixtures.h"
 
 namespace {
 
-using lines_t = std::vector<std::string>;
 using counts_t = std::vector<std::pair<std::string, int>>;
-const std::string DASH = " -------------------------------------------";
 
 TEST(ShapeRules, EachRuleTakesItsSizeCodes) {
     using enum shaperule;
@@ -121,7 +114,7 @@ TEST_F(ShapePages, NineDcLevelsFromAQuarterToFourTimesCdiff) {
 }
 
 // The sample well through the log menu, as the user meets it.
-struct ShapeTables : ShapeWell {
+struct ShapeTables : Borehole {
     // The depths of an extracted table: the first value of each line after
     // the title and the names.
     static lines_t depths(const std::string& name, const std::string& title) {
@@ -137,7 +130,7 @@ struct ShapeTables : ShapeWell {
 };
 
 TEST_F(ShapeTables, TheExtractedTablesHoldTheGlobalTestAndEveryPageRenders) {
-    read("well210.txt", "210", 4000.f);
+    read("210", 0.f, 4000.f);
     type({"321", "0", "3", ""});
     for (const char* icmd : {"322", "323", "324", "325", "326", "332", "334", "350", "351",
                              "354", "365", "366"})

@@ -3,43 +3,24 @@
 // reference lines with their colours as they stand in the plot file.
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <map>
-#include <string>
-#include <vector>
 
 #include "borehole/tracks.h"
-#include "borehole/wellplot.h"
-#include "math/angles.h"
+#include "borehole_fixtures.h"
 #include "plot/attributes.h"
 #include "plot/axes/axes.h"
 #include "plot/device/psdevice.h"
-#include "plot/pages.h"
 #include "shell/format.h"
-#include "well/well_fixture.h"
 
 namespace {
 
-using lines_t = std::vector<std::string>;
-const std::string DASH = " -------------------------------------------";
-
-struct Tracks : WellDialogue {
-    welldat_t& w = welldat;
+struct Tracks : Borehole {
     int n = 0;
     std::size_t mark = 0;  // plot file lines before the last load
 
     void SetUp() override {
-        WellDialogue::SetUp();
-        iocom.lpause = false;
-        type({""});
-        fstr<40> name = "tracks.ps";
-        plinit(name, 5);
-        swellplot(5);  // opening from the defaults cleared the log layouts
-        clear();
-    }
-    void TearDown() override {
-        iocom.lplotopen = false;
-        WellDialogue::TearDown();
+        Borehole::SetUp();
+        open_plot("tracks.ps");
     }
     static lines_t plot_lines() {
         unit_flush(UNIT_PLOT);

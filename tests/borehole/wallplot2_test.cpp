@@ -6,46 +6,17 @@
 
 #include <cmath>
 #include <filesystem>
-#include <fstream>
-#include <string>
-#include <vector>
 
 #include "borehole/wallplot2.h"
-#include "borehole/wellplot.h"
+#include "borehole_fixtures.h"
 #include "plot/attributes.h"
-#include "plot/ghostscript.h"
-#include "shell/fake_platform.h"
-#include "shell/units.h"
-#include "well/well_fixture.h"
 
 namespace {
 
-using lines_t = std::vector<std::string>;
-const std::string DASH = " -------------------------------------------";
-
-struct WallMenu : WellDialogue {
-    welldat_t& w = welldat;
-
-    void SetUp() override {
-        WellDialogue::SetUp();
-        use_fake_platform();
-        smaininfo2("tarnolix            ", "12.3", "2024-09-14");
-        iocom.lpause = false;
-        clear();
-    }
-    void TearDown() override {
-        iocom.lplotopen = false;
-        runinfo_platform = runinfo_platform_default();
-        WellDialogue::TearDown();
-    }
+struct WallMenu : Borehole {
     void menu(std::initializer_list<std::string> keys) {
         type(keys);
         run([] { wallplot2(0); });
-    }
-    void read_sample() {
-        type({"100", "210", "99", "1000", sample("well210.txt"), "99", "99", "1000", "99"});
-        run([] { readwell2(2); });
-        clear();
     }
     // Rows at depths 1001, 1002, ... of type 100: P1Az as given, C1 30, C2 26.
     void load(const std::vector<float>& p1az) {
@@ -61,22 +32,7 @@ struct WallMenu : WellDialogue {
         wellpara.ztop = 1000.0f;
         wellpara.zbot = 1000.0f + float(w.ndatwd);
     }
-    static std::string ps() {
-        unit_flush(UNIT_PLOT);
-        std::ifstream in("wellpers.ps");
-        return std::string(std::istreambuf_iterator<char>(in), {});
-    }
-    static int occurrences(const std::string& text, const std::string& what) {
-        int n = 0;
-        for (auto k = text.find(what); k != std::string::npos; k = text.find(what, k + 1)) ++n;
-        return n;
-    }
-    // The last line equal to s, or -1.
-    int last(const std::string& s) const {
-        int k = -1;
-        for (int j = find(s); j >= 0; j = find(s, j + 1)) k = j;
-        return k;
-    }
+    static std::string ps() { return text("wellpers.ps"); }
 };
 
 TEST_F(WallMenu, WithoutDataOrOutsideTheDataThePageStaysBlank) {
@@ -87,7 +43,7 @@ TEST_F(WallMenu, WithoutDataOrOutsideTheDataThePageStaysBlank) {
     EXPECT_EQ(lines(0, int(expect.size())), expect);
 
     // Data, but the default interval 0 to 1000 m lies above them.
-    read_sample();
+    read("210", 0.f, 1000.f);
     menu({"100", "", "20", "", "99"});
     const int k = find(" DATA OUT OF RANGE");
     ASSERT_GT(k, 4);
@@ -100,7 +56,7 @@ TEST_F(WallMenu, WithoutDataOrOutsideTheDataThePageStaysBlank) {
 }
 
 TEST_F(WallMenu, MenuShowsEverySettingAndKeepsTheAnswers) {
-    read_sample();
+    read("210", 0.f, 1000.f);
     menu({"800", "2080", "801", "5", "805", "0.25", "806", "-30", "850", "2", "855", "2", "860",
           "25", "901", "0", "904", "1", "907", "0", "11", "0", "99"});
     EXPECT_EQ(count(" to use Landscape(1) or Portrait(0) A4 ?"), 1);
@@ -220,9 +176,7 @@ TEST_F(WallMenu, SaturationMarksFallOnTheChosenSamples) {
 // The sample well's first breakout, 2091.44 to 2182.73 m: pad 1 stands in
 // it at azimuth 65 while C1 opens by 3.5 to 7.5 cm.
 TEST_F(WallMenu, TheBreakoutShowsAlongItsAzimuthAndTurnsWithTheShift) {
-    read_sample();
-    wellpara.ztop = 2080.0f;
-    wellpara.zbot = 2110.0f;
+    read("210", 2080.f, 2110.f);
     const float h = wellpara.bitsize * 0.5f;
     menu({"800", "2080", "860", "25", "100", "0", "3", "",
           // a perspective from the north-east, above the top

@@ -1,5 +1,5 @@
-// Log layouts: where each subplot stands on the page, the axis set
-// defaults, the box a track gets from slogbox, and the layout menu.
+// Log layouts: where each subplot stands on the page, the box a track gets
+// from slogbox, and the layout menu.
 #include <algorithm>
 #include <fstream>
 #include <string>
@@ -15,22 +15,20 @@ namespace {
 using lines_t = std::vector<std::string>;
 const std::string DASH = " -------------------------------------------";
 
-// A subplot's box on the paper, cm.
+// Each subplot's box on the paper, cm: left, bottom, width, height.
 struct box {
+    int n;
     float x, y, w, h;
 };
-box boxof(int n) {
+void expect_boxes(std::initializer_list<box> want) {
     const plt1blk_t& p = plt1blk;
-    return {p.USMINTOCM(1, n), p.USMINTOCM(2, n), p.CMAXLENGTH(1, n), p.CMAXLENGTH(2, n)};
+    for (const box& b : want) {
+        const float got[] = {p.USMINTOCM(1, b.n), p.USMINTOCM(2, b.n), p.CMAXLENGTH(1, b.n),
+                             p.CMAXLENGTH(2, b.n)};
+        const float exp[] = {b.x, b.y, b.w, b.h};
+        for (int k = 0; k < 4; ++k) EXPECT_FLOAT_EQ(got[k], exp[k]) << "subplot " << b.n << " " << k;
+    }
 }
-#define EXPECT_BOX(n, X, Y, W, H)                 \
-    do {                                          \
-        const box b_ = boxof(n);                  \
-        EXPECT_FLOAT_EQ(b_.x, X) << "subplot " << n; \
-        EXPECT_FLOAT_EQ(b_.y, Y) << "subplot " << n; \
-        EXPECT_FLOAT_EQ(b_.w, W) << "subplot " << n; \
-        EXPECT_FLOAT_EQ(b_.h, H) << "subplot " << n; \
-    } while (0)
 
 class layout : public plot_session {
 protected:
@@ -55,53 +53,26 @@ protected:
     }
 };
 
-TEST_F(layout, StartUpSetsOrientationColoursAndTheFifteenAxisSets) {
+// Start-up: landscape, the caliper colours and the boxes of each layout.
+TEST_F(layout, StartUpLandscapeRowsShareBottomAndHeightAndWideBoxesCoverNarrowOnes) {
     swellplot(5);
     const int k = find(" INITIALIZING PLOT SCALING, ATTRIBUTES & AXES");
     ASSERT_GT(k, 0);
     EXPECT_EQ(con.screen[std::size_t(k - 2)], " @ subroutine swellplot             v9.0 2020-10-19");
     EXPECT_TRUE(wellplot.llandscape);
-    EXPECT_EQ(wellplot.jclrc1, 2);
-    EXPECT_EQ(wellplot.jclrc2, 4);
-
-    struct row { const char* label; float a, b, d; int sub, lab; };
-    const row want[15] = {
-        {"Depth (m)", 0, 1000, 50, 5, 2},       {"Azimuth [90]", 0, 90, 30, 3, 1},
-        {"AzCmax [180]", 0, 180, 30, 3, 3},     {"Diameter (cm)", 10, 40, 5, 5, 2},
-        {"DC (cm)", -15, 15, 5, 5, 3},          {"|DC| (cm)", 0, 15, 5, 5, 2},
-        {"Azimuth [360]", 0, 360, 30, 3, 3},    {"Rotation (deg/m)", -15, 15, 5, 5, 3},
-        {"0 -> 100 inc = 10", 0, 100, 5, 5, 2}, {"HAZI", 0, 360, 30, 3, 3},
-        {"DEVI", 0, 5, 0.5f, 5, 2},             {"RB", 0, 360, 30, 3, 3},
-        {"RBCmax [180]", 0, 180, 30, 3, 3},     {"AzCmax [180]", 0, 180, 30, 3, 3},
-        {"X section (cm)", -20, 20, 5, 5, 2}};
-    const axisblk7a_t& a = axisblk7a;
-    for (int i = 1; i <= 15; ++i) {
-        const row& r = want[i - 1];
-        SCOPED_TRACE("axis set " + std::to_string(i));
-        EXPECT_EQ(axisblk7b.WALAB(i).trimmed(), r.label);
-        EXPECT_EQ((std::vector<float>{a.USA1(i), a.USA2(i), a.WAU1(i), a.WAU2(i), a.WAUD(i), a.WALAS(i)}),
-                  (std::vector<float>{r.a, r.b, r.a, r.b, r.d, 0.5f}));
-        EXPECT_EQ((std::vector<int>{a.NAWDIG(i), a.NASUBINT(i), a.NLABINTK(i), a.IUSWDTYP(i)}),
-                  (std::vector<int>{0, r.sub, r.lab, i == 9 ? 0 : 1}));
-    }
-}
-
-TEST_F(layout, LandscapeRowsShareBottomAndHeightAndWideBoxesCoverNarrowOnes) {
-    EXPECT_BOX(2, 2.5f, 2.5f, 25.0f, 15.0f);
-    EXPECT_EQ(plt1blk.USEXTR(3, 2), 1000.0f);  // depth grows downwards
-    EXPECT_EQ(plt1blk.USEXTR(4, 2), 0.0f);
-    EXPECT_BOX(8, 2.5f + 5.0f * 25.0f / 6.0f, 2.5f, 25.0f / 6.0f, 15.0f);
-    EXPECT_BOX(9, 2.5f, 2.5f, 3.0f, 15.0f);
-    EXPECT_BOX(20, 25.5f, 2.5f, 2.0f, 15.0f);
-    EXPECT_BOX(22, 8.5f, 2.5f, 3.0f, 15.0f);
-    EXPECT_FLOAT_EQ(boxof(22).x + 3.0f, boxof(13).x);
-    EXPECT_BOX(32, 15.25f, 2.5f, 4.25f, 15.0f);
-    EXPECT_BOX(36, 25.5f, 2.5f, 2.0f, 15.0f);
-    EXPECT_BOX(37, 15.25f, 2.5f, 8.25f, 15.0f);
-    EXPECT_FLOAT_EQ(boxof(37).x + 8.25f, boxof(35).x);
+    EXPECT_EQ((std::vector<int>{wellplot.jclrc1, wellplot.jclrc2}), (std::vector<int>{2, 4}));
     // Statistics: top row 25, 24, 23, lower row 28, 27, 26.
-    EXPECT_BOX(28, 4.0f, 3.0f, 6.0f, 6.0f);
-    EXPECT_BOX(23, 20.0f, 11.0f, 6.0f, 6.0f);
+    expect_boxes({{2, 2.5f, 2.5f, 25.0f, 15.0f},
+                  {8, 2.5f + 5.0f * 25.0f / 6.0f, 2.5f, 25.0f / 6.0f, 15.0f},
+                  {9, 2.5f, 2.5f, 3.0f, 15.0f},    {20, 25.5f, 2.5f, 2.0f, 15.0f},
+                  {22, 8.5f, 2.5f, 3.0f, 15.0f},   {32, 15.25f, 2.5f, 4.25f, 15.0f},
+                  {36, 25.5f, 2.5f, 2.0f, 15.0f},  {37, 15.25f, 2.5f, 8.25f, 15.0f},
+                  {28, 4.0f, 3.0f, 6.0f, 6.0f},    {23, 20.0f, 11.0f, 6.0f, 6.0f}});
+    // Wide boxes end where the next narrow one starts; depth grows downwards.
+    EXPECT_FLOAT_EQ(plt1blk.USMINTOCM(1, 22) + 3.0f, plt1blk.USMINTOCM(1, 13));
+    EXPECT_FLOAT_EQ(plt1blk.USMINTOCM(1, 37) + 8.25f, plt1blk.USMINTOCM(1, 35));
+    EXPECT_EQ(plt1blk.USEXTR(3, 2), 1000.0f);
+    EXPECT_EQ(plt1blk.USEXTR(4, 2), 0.0f);
     // 1: a fixed scale of 0.8 about the top middle of the page.
     EXPECT_EQ(plt1blk.US0TOCM(1, 1), 15.0f);
     EXPECT_EQ(plt1blk.US0TOCM(2, 1), 17.5f);
@@ -193,10 +164,9 @@ TEST_F(layout, MenuShowsTheLayoutsAndTurnsThePage) {
     EXPECT_NE(sc[std::size_t(nb - 1)], DASH);
     EXPECT_NE(sc[std::size_t(nb + 2)], DASH);
     EXPECT_FALSE(wellplot.llandscape);
-    EXPECT_BOX(2, 2.5f, 2.5f, 16.0f, 24.0f);
-    EXPECT_BOX(12, 4.3f + 2.4f, 2.5f, 1.2f, 24.0f);
-    EXPECT_BOX(37, 10.0f, 2.5f, 5.0f, 24.0f);
-    EXPECT_BOX(25, 3.5f, 19.5f, 6.0f, 6.0f);  // left column 25, 24, 23 from the top
+    // The stats in the left column 25, 24, 23 from the top.
+    expect_boxes({{2, 2.5f, 2.5f, 16.0f, 24.0f}, {12, 4.3f + 2.4f, 2.5f, 1.2f, 24.0f},
+                  {37, 10.0f, 2.5f, 5.0f, 24.0f}, {25, 3.5f, 19.5f, 6.0f, 6.0f}});
     EXPECT_EQ(plt1blk.US0TOCM(2, 1), 26.5f);
     const int f = find(" Landscape(T)/Portrait(F)...11 F", t);
     ASSERT_GT(f, t);
@@ -211,7 +181,7 @@ TEST_F(layout, SubplotEditsLastUntilTheOrientationChanges) {
     type({"10", "0", "3", "1", "0", "100", "0", "200", "1", "1", "5", "5", "0", "99"});
     type({"11", "1", "99"});
     swellplot(2);
-    EXPECT_BOX(3, 1.0f, 1.0f, 5.0f, 5.0f);
+    expect_boxes({{3, 1.0f, 1.0f, 5.0f, 5.0f}});
     EXPECT_EQ(count(con.screen, " Do you want to alter this ?"), 1);
     EXPECT_EQ(count(con.screen, " subplot nb maxi =  28"), 3);
     // Above 28: 1 to 28 in turn.
@@ -220,7 +190,7 @@ TEST_F(layout, SubplotEditsLastUntilTheOrientationChanges) {
     type({"99", "11", "0", "99"});
     swellplot(2);
     EXPECT_EQ(count(con.screen, " Do you want to alter this ?"), 29);
-    EXPECT_BOX(3, 2.5f, 2.5f, 16.0f / 6.0f, 24.0f);
+    expect_boxes({{3, 2.5f, 2.5f, 16.0f / 6.0f, 24.0f}});
 }
 
 TEST_F(layout, ResetWithDialogueOffersEachAxisSetThenTheMenu) {
