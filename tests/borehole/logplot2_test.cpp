@@ -42,18 +42,16 @@ TEST_F(LogMenu, WithoutDataTheFrameSaysSoAndAPlotCommandTakesNoPage) {
 TEST_F(LogMenu, ParameterCommandsAndTheirLinesInTheMenu) {
     read("210");
     menu({"856", "40", "857", "7", "857", "12", "855", "1", "11", "0", "99"});
-    const int w = find(" Entered nb of intervals =      7");
-    ASSERT_GT(w, 0);
-    EXPECT_EQ(lines(w - 1, 7),
+    const int k = find(" Entered nb of intervals =      7");
+    ASSERT_GT(k, 0);
+    EXPECT_EQ(lines(k - 1, 7),
               (lines_t{warning_head_lines("  logplot2   ")[3], " Entered nb of intervals =      7",
                        " CENTERED ROTATION", " NB OF INTERVALS MUST BE EVEN",
                        " => DISCARDING INPUT", " => KEEPING OLD STORED VALUE",
                        " Stored nb of intervals =     66"}));
     // The last menu: the answers kept, computations to be redone, and the
     // orientation changed.
-    int last = -1;
-    for (int k = 0; k >= 0; k = find(" PARAMETERS                        Command", k + 1)) last = k;
-    EXPECT_EQ(lines(last + 2, 4),
+    EXPECT_EQ(lines(last(" PARAMETERS                        Command") + 2, 4),
               (lines_t{" Update computations : T",
                        " Csat activated ?......................855      1",
                        " Nb intervals for forward rotation ....856     40",
