@@ -91,7 +91,7 @@ TEST_F(StatMenu, EntryComputationsAndHistogramsAgainstADirectCount) {
         for (int i = i1; i < i1 + nsel; ++i) ++c[std::size_t(int((get(i) - lo) / width))];
         return c;
     };
-    auto col = [&](int j) { return [&w, j](int i) { return w.RWD1(i, j); }; };
+    auto col = [&](int j) { return [this, j](int i) { return w.RWD1(i, j); }; };
     auto mod = [](float a, float p) { return a - p * std::floor(a / p); };
     EXPECT_EQ(listed[0], direct(col(w.JCOL(w.jc1)), 0, 1, 50));
     EXPECT_EQ(listed[1], direct(col(w.JCOL(w.jc2)), 0, 1, 50));
