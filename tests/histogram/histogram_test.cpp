@@ -15,6 +15,7 @@
 namespace {
 
 using lines_t = std::vector<std::string>;
+const std::string RULE = " -------------------------------------------";
 
 struct store : Dialogue {
     void SetUp() override {
@@ -59,12 +60,11 @@ TEST_F(store, CountsEqualADirectCountWithEdgesAndValuesOutside) {
     for (float v : x) {
         if (v < 0.0f || v > 10.0f) {
             ++rejected;
-            continue;
+        } else {
+            ++want[v == 10.0f ? 19 : std::size_t(v * 2.0f)];
+            sum += v;
         }
-        ++want[v == 10.0f ? 19 : std::size_t(v * 2.0f)];
     }
-    for (float v : x)
-        if (v >= 0.0f && v <= 10.0f) sum += v;
     hstclear(h);
     hstadd(x.data(), int(x.size()), h);
     EXPECT_EQ(counts(h), want);
@@ -228,7 +228,7 @@ TEST_F(store, BinSettingDialogueAndItsWidthCommand) {
     // The last menu, line by line.
     int last = 0;
     for (int k = 0; k >= 0; k = find(" X axis bin setting", k + 1)) last = k;
-    EXPECT_EQ(lines(last, 14), (lines_t{" X axis bin setting", " -------------------------------------------",
+    EXPECT_EQ(lines(last, 14), (lines_t{" X axis bin setting", RULE,
                                         " Histogram nb            :   1", " Current nb of histograms:   2",
                                         " Maximum nb of histograms:  12",
                                         " x-label ........................120 X-undefined              ",
@@ -264,37 +264,34 @@ TEST_F(store, OneHistogramMenuLocksLinesByTheSwitch) {
               (lines_t{" Maximum nb of histograms :     12", " Current nb of histograms :      2",
                        " Histogram nb             :      2", " Histogram type           :     -1",
                        " Mode                     :      0", " Min                      :      0",
-                       " Number of retained data  :      0", " Number of rejected data  :      0",
-                       " -------------------------------------------", " X axis and bins",
-                       " -------------------------------------------", " Max nb of x - axes       :     12",
+                       " Number of retained data  :      0", " Number of rejected data  :      0", RULE,
+                       " X axis and bins", RULE, " Max nb of x - axes       :     12",
                        " Max nb of bins           :    180", " X axis nb .....................:      2",
-                       " x-label .....................110 X                        ", " Mini ........................110   0.0000    ",
-                       " Maxi ........................110   10.000    ",
+                       " x-label .....................110 X                        ",
+                       " Mini ........................110   0.0000    ", " Maxi ........................110   10.000    ",
                        " nb of bins ..................110      1", " nb of bins within major tics 110      1",
-                       " major interv. between labels 110      1", " -------------------------------------------",
-                       " Y axis", " -------------------------------------------",
-                       " y extrema type...............200      1", " y-label .....................210 N                        ",
-                       " Max .........................220   10.000    ",
-                       " Min .........................220   0.0000    ", " -------------------------------------------",
-                       " Plot", " -------------------------------------------",
-                       " Type ..........................:      1", " Style .......................310     11",
-                       " Fill color ..................320      8", " -------------------------------------------",
+                       " major interv. between labels 110      1", RULE, " Y axis", RULE,
+                       " y extrema type...............200      1",
+                       " y-label .....................210 N                        ",
+                       " Max .........................220   10.000    ", " Min .........................220   0.0000    ",
+                       RULE, " Plot", RULE, " Type ..........................:      1",
+                       " Style .......................310     11", " Fill color ..................320      8", RULE,
                        " |nb|on|        label        .com", " | 1| 0|X                    .331",
                        " | 2| 0|Y                    .332", " | 3| 0|-X                   .333",
                        " | 4| 0|-Y                   .334", " | 5| 1|X                    .335",
                        " | 6| 0|UR                   .336", " | 7| 0|UL                   .337",
-                       " | 8| 1|N                    .338", " -------------------------------------------",
-                       " EXIT .........................99", " " + std::string(50, '@')}));
+                       " | 8| 1|N                    .338", RULE, " EXIT .........................99",
+                       " " + std::string(50, '@')}));
     // The read-only list of all histograms.
     isw = 0;
     type({"1", "99", "99"});
     clear();
     shstall(isw, 2);
-    EXPECT_EQ(lines(3, 10), (lines_t{" -------------------------------------------", "       Global Histogram set up",
-                                     " -------------------------------------------", " nb of histograms to use .......:   2",
-                                     " -------------------------------------------", " |histo nb|    X label            |",
+    EXPECT_EQ(lines(3, 10), (lines_t{RULE, "       Global Histogram set up",
+                                     RULE, " nb of histograms to use .......:   2",
+                                     RULE, " |histo nb|    X label            |",
                                      " |    1   |X                      |", " |    2   |X                      |",
-                                     " -------------------------------------------", " EXIT .........................99"}));
+                                     RULE, " EXIT .........................99"}));
     EXPECT_GT(find(" |nb|on|        label            "), 0);
     EXPECT_GT(find(" Type ..........................:      1"), 0);
 }
@@ -335,19 +332,15 @@ TEST_F(store, ListingHasTabSeparatedRowsThatAddUpToTheTotal) {
     EXPECT_EQ(find(" Histogram number   =   1"), -1);
 }
 
-}  // namespace
-
-namespace {
-
 TEST_F(store, ListingMenuChoosesTheRangeAndWritesOnce) {
     int f = 1, l = 1;
     type({"11", "2", "12", "2", "", ""});  // return writes, then return leaves
     hstwrite(6, f, l, 0);
     const int m = find(" READY TO WRITE HISTOGRAMS TO FILE");
     ASSERT_GT(m, 0);
-    EXPECT_EQ(lines(m - 1, 8), (lines_t{" -------------------------------------------", " READY TO WRITE HISTOGRAMS TO FILE",
+    EXPECT_EQ(lines(m - 1, 8), (lines_t{RULE, " READY TO WRITE HISTOGRAMS TO FILE",
                                         " Current histogram set up ..10", " initial histogram .........11      1",
-                                        " final   histogram .........12      1", " -------------------------------------------",
+                                        " final   histogram .........12      1", RULE,
                                         " WRITE ....................100", " EXIT ......................99"}));
     EXPECT_EQ((std::vector<int>{f, l}), (std::vector<int>{2, 2}));
     EXPECT_EQ(count(" Histogram number   =   2"), 1);

@@ -1,17 +1,13 @@
 // Angle constants, wrapping, polar conversion and circles.
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <cmath>
-#include <cstdint>
 #include <vector>
 
 #include "dialogue.h"
 #include "math/angles.h"
 
 namespace {
-
-std::uint32_t bits(float f) { return std::bit_cast<std::uint32_t>(f); }
 
 class angles : public Dialogue {
 protected:
@@ -33,27 +29,26 @@ protected:
 
 }  // namespace
 
-TEST_F(angles, ConstantsHaveTheirExactBitPatterns) {
-    const auto& c = anglerad;
-    EXPECT_EQ((std::vector<std::uint32_t>{bits(c.quartpi), bits(c.thirdpi), bits(c.halfpi), bits(c.threequartpi),
-                                          bits(c.pinum), bits(c.threehalfpi), bits(c.twopi), bits(c.deg2radfac),
-                                          bits(c.rad2degfac)}),
-              (std::vector<std::uint32_t>{0x3F490FDB, 0x3F860A92, 0x3FC90FDB, 0x4016CBE4, 0x40490FDB, 0x4096CBE4,
-                                          0x40C90FDB, 0x3C8EFA35, 0x42652EE0}));
-    auto bound = [](const anglebound_t& b) {
-        return std::vector<std::uint32_t>{bits(b.quartpi), bits(b.thirdpi), bits(b.halfpi), bits(b.threequartpi),
-                                          bits(b.pinum), bits(b.threehalfpi), bits(b.twopi)};
-    };
-    EXPECT_EQ(bound(angleradi), (std::vector<std::uint32_t>{0x3F490F33, 0x3F860A3E, 0x3FC90F87, 0x4016CBBA,
-                                                            0x40490FB1, 0x4096CBCF, 0x40C90FC6}));
-    EXPECT_EQ(bound(anglerads), (std::vector<std::uint32_t>{0x3F491083, 0x3F860AE6, 0x3FC9102F, 0x4016CC0E,
-                                                            0x40491005, 0x4096CBF9, 0x40C90FF0}));
-    EXPECT_EQ(lines(0, 4), (std::vector<std::string>{" " + std::string(50, '@'),
-                                                     " @ subroutine trigoset              v8.0 2017-03-10",
-                                                     " @" + std::string(49, '='), " Initializing /anglerad/ block"}));
-}
-
-TEST_F(angles, DegreesAndRadians) {
+TEST_F(angles, ConstantsAreTheNearestFloatsAndTheBoundsLieTenMicroradiansOff) {
+    const double pi = 3.14159265358979323846;
+    const anglerad_t& c = anglerad;
+    const struct {
+        float value, below, above;
+        double exact;
+    } cs[] = {{c.quartpi, angleradi.quartpi, anglerads.quartpi, pi / 4},
+              {c.thirdpi, angleradi.thirdpi, anglerads.thirdpi, pi / 3},
+              {c.halfpi, angleradi.halfpi, anglerads.halfpi, pi / 2},
+              {c.threequartpi, angleradi.threequartpi, anglerads.threequartpi, 3 * pi / 4},
+              {c.pinum, angleradi.pinum, anglerads.pinum, pi},
+              {c.threehalfpi, angleradi.threehalfpi, anglerads.threehalfpi, 3 * pi / 2},
+              {c.twopi, angleradi.twopi, anglerads.twopi, 2 * pi}};
+    for (const auto& k : cs) {
+        EXPECT_EQ(k.value, float(k.exact)) << k.exact;
+        EXPECT_EQ(k.below, k.value - 1.0e-5f) << k.exact;
+        EXPECT_EQ(k.above, k.value + 1.0e-5f) << k.exact;
+    }
+    EXPECT_EQ(c.deg2radfac, float(pi / 180));
+    EXPECT_EQ(c.rad2degfac, 180.0f / c.pinum);
     EXPECT_EQ(deg(anglerad.pinum), 180.0f);
     float a[3] = {0.0f, 90.0f, -45.0f};
     deg2rad(a, a, 3);
@@ -61,6 +56,9 @@ TEST_F(angles, DegreesAndRadians) {
               (std::vector<float>{anglerad.halfpi, -anglerad.quartpi, anglerad.halfpi}));
     rad2deg(a, a, 3);
     EXPECT_EQ((std::vector<float>(a, a + 3)), (std::vector<float>{0.0f, 90.0f, -45.0f}));
+    EXPECT_EQ(lines(0, 4), (std::vector<std::string>{" " + std::string(50, '@'),
+                                                     " @ subroutine trigoset              v8.0 2017-03-10",
+                                                     " @" + std::string(49, '='), " Initializing /anglerad/ block"}));
 }
 
 TEST_F(angles, WrapIntoOriginAndPeriodOrAroundZero) {
@@ -109,17 +107,12 @@ TEST_F(angles, PolarAndCartesian) {
 }
 
 TEST_F(angles, CirclesAndArcs) {
-    float x[5], y[5];
+    float x[8], y[8];
     circle(x, y, 5, 1.0f, 2.0f, 2.0f);
-    const float ex[5] = {3, 1, -1, 1, 3}, ey[5] = {2, 4, 2, 0, 2};
-    for (int i = 0; i < 5; ++i) {
+    arcirclerad(x + 5, y + 5, 3, 10.0f, 0.0f, 1.0f, 0.0f, anglerad.pinum);
+    const float ex[8] = {3, 1, -1, 1, 3, 11, 10, 9}, ey[8] = {2, 4, 2, 0, 2, 0, 1, 0};
+    for (int i = 0; i < 8; ++i) {
         EXPECT_NEAR(x[i], ex[i], 1e-6f) << i;
         EXPECT_NEAR(y[i], ey[i], 1e-6f) << i;
-    }
-    arcirclerad(x, y, 3, 10.0f, 0.0f, 1.0f, 0.0f, anglerad.pinum);
-    const float ax[3] = {11, 10, 9}, ay[3] = {0, 1, 0};
-    for (int i = 0; i < 3; ++i) {
-        EXPECT_NEAR(x[i], ax[i], 1e-6f) << i;
-        EXPECT_NEAR(y[i], ay[i], 1e-6f) << i;
     }
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "dialogue.h"
+#include "lines.h"
 #include "math/angles.h"
 #include "math/lstsq1.h"
 #include "math/matrix.h"
@@ -14,6 +15,8 @@
 #include "shell/stop.h"
 
 namespace {
+
+using lines_t = std::vector<std::string>;
 
 class numerics : public Dialogue {
 protected:
@@ -56,11 +59,9 @@ TEST_F(numerics, InverseInPlaceAndASingularMatrixStopsTheRun) {
     float s[4] = {1, 2, 2, 4}, c[4] = {9, 9, 9, 9};
     type({""});  // STOP? the return key takes the advised way
     EXPECT_THROW(m22invert(c, s), program_stop);
-    std::vector<std::string> want = error_head_lines("    m22invert");
-    for (const char* l : {" det(B) =        0.00    ", " b(1,1) =        1.00     b(1,2) =        2.00    ",
-                          " b(2,1) =        2.00     b(2,2) =        4.00    ", " => Cannot Invert B"})
-        want.push_back(l);
-    EXPECT_EQ(lines(0, 13), want);
+    EXPECT_EQ(lines(0, 13), (error_head_lines("    m22invert") +
+                                lines_t{" det(B) =        0.00    ", " b(1,1) =        1.00     b(1,2) =        2.00    ",
+                                        " b(2,1) =        2.00     b(2,2) =        4.00    ", " => Cannot Invert B"}));
     EXPECT_GE(find(" UNRECOVERABLE ERROR ==> QUITTING ADVISED"), 0);
     EXPECT_EQ(c[0], 9.0f);
 }
@@ -86,7 +87,7 @@ TEST_F(numerics, ProductsMayOverwriteAnOperand) {
     EXPECT_EQ(std::vector<float>(v, v + 3), (std::vector<float>{1, -3, 2}));
 }
 
-TEST_F(numerics, LineThroughPoints) {
+TEST_F(numerics, LineThroughPointsAndTheSentinelSlopeOfEqualAbscissae) {
     std::vector<float> x{1000, 1001, 1002, 1003, 1004}, y;
     for (float xi : x) y.push_back(-0.5f * xi + 600.0f);
     float a1 = 0, b1 = 0;
@@ -100,25 +101,23 @@ TEST_F(numerics, LineThroughPoints) {
     EXPECT_FLOAT_EQ(a1, 1.9f);
     EXPECT_FLOAT_EQ(b1, 1.15f);
     EXPECT_TRUE(screen().empty());
-}
 
-TEST_F(numerics, EqualAbscissaeGiveTheSentinelSlope) {
-    std::vector<float> x{2, 2, 2}, y{1, 5, 9};
-    float a1 = 0, b1 = 7;
-    lstsq1(a1, b1, x.data(), y.data(), 3);
+    // Equal abscissae give the sentinel slope.
+    std::vector<float> x2{2, 2, 2}, y2{1, 5, 9};
+    b1 = 7;
+    lstsq1(a1, b1, x2.data(), y2.data(), 3);
     EXPECT_EQ(a1, 1.0e10f);
     EXPECT_EQ(b1, 0.0f);
-    EXPECT_EQ(lines(0, 4), warning_head_lines("       lstsq1"));
-    EXPECT_EQ(lines(4, 15),
-              (std::vector<std::string>{" sig(tt) = 0", "  t = x - xm", "  sig(x)  =            6.00000",
-                                        "  sig(y)  =           15.00000", "  sig(tt) =            0.00000",
-                                        "  sig(ty) =            0.00000", " Input parameters:", "  n    =      3",
-                                        "  x(1) =            2.00000", "  y(1) =            1.00000",
-                                        "  x(n) =            2.00000", "  y(n) =            9.00000", " ==> SETTING:",
-                                        "  a1 =  10000000000.00000", "  b1 =            0.00000"}));
+    EXPECT_EQ(lines(0, 19), (warning_head_lines("       lstsq1") +
+                            lines_t{" sig(tt) = 0", "  t = x - xm", "  sig(x)  =            6.00000",
+                                    "  sig(y)  =           15.00000", "  sig(tt) =            0.00000",
+                                    "  sig(ty) =            0.00000", " Input parameters:", "  n    =      3",
+                                    "  x(1) =            2.00000", "  y(1) =            1.00000",
+                                    "  x(n) =            2.00000", "  y(n) =            9.00000", " ==> SETTING:",
+                                    "  a1 =  10000000000.00000", "  b1 =            0.00000"}));
 }
 
-TEST_F(numerics, IndexSortLeavesTheValuesInPlace) {
+TEST_F(numerics, IndexSortLeavesTheValuesInPlaceAndItsStackOverflowStopsTheRun) {
     // A pseudo-random set with repeated values.
     std::vector<float> r;
     unsigned s = 12345;
@@ -133,9 +132,7 @@ TEST_F(numerics, IndexSortLeavesTheValuesInPlace) {
     EXPECT_EQ(sorted_index(std::vector<float>(6, 2.5f)), (std::vector<int>{1, 2, 3, 4, 5, 6}));
     EXPECT_EQ(sorted_index({42.0f}), std::vector<int>{1});
     EXPECT_TRUE(screen().empty());
-}
 
-TEST_F(numerics, IndexSortStackOverflowStopsTheRun) {
     // Each value so far above those before it that the mean of the
     // smallest m values lies between the two largest of them: every pass
     // splits off the largest value alone and pushes the rest.

@@ -15,10 +15,6 @@ namespace {
 
 using lines_t = std::vector<std::string>;
 
-lines_t operator+(lines_t a, const lines_t& b) {
-    a.insert(a.end(), b.begin(), b.end());
-    return a;
-}
 lines_t seg(const std::string& from, const std::string& to) {
     return {"newpath", from + " moveto", to + " lineto", "stroke"};
 }

@@ -12,10 +12,6 @@ namespace {
 
 using lines_t = std::vector<std::string>;
 
-lines_t operator+(lines_t a, const lines_t& b) {
-    a.insert(a.end(), b.begin(), b.end());
-    return a;
-}
 
 // One stroked path through the given points.
 lines_t path(std::initializer_list<std::string> pts, lines_t end = {"stroke"}) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "dialogue.h"
+#include "lines.h"
 #include "tables/readreal.h"
 
 namespace {
@@ -35,9 +36,7 @@ struct Reader : Dialogue {
                   inter);
     }
     void write_file(const std::string& name, const std::string& text) {
-        std::FILE* f = std::fopen(name.c_str(), "w");
-        std::fputs(text.c_str(), f);
-        std::fclose(f);
+        ::write_file(name, text);
         fname = name;
     }
     std::string numbered(int n) {
@@ -45,14 +44,7 @@ struct Reader : Dialogue {
         for (int i = 1; i <= n; ++i) t += std::to_string(100 + i) + " 21.5 21.7\n";
         return t;
     }
-    void finish(std::function<void()> f) {
-        try {
-            f();
-        } catch (const console_closed&) {
-            FAIL() << "the dialogue asked for more answers than scripted";
-        }
-        EXPECT_TRUE(con.keys.empty()) << con.keys.size() << " answers left over";
-    }
+    void finish(std::function<void()> f) { run_to_end(*this, f); }
 };
 
 TEST_F(Reader, ReadsFreeFormatValuesAcrossBlankAndSplitLines) {

@@ -19,13 +19,6 @@ namespace {
 using lines_t = std::vector<std::string>;
 const std::string DASH = " -------------------------------------------";
 
-lines_t file(const std::string& name) {
-    std::ifstream in(name);
-    lines_t v;
-    for (std::string l; std::getline(in, l);) v.push_back(l);
-    return v;
-}
-
 // Three variables on the columns 3, 1, 2 of six rows.
 struct Writer : WellDialogue {
     farr2<float, 6, 3> data;
@@ -139,8 +132,8 @@ TEST_F(Writer, AWellTableWrittenWithTheStandardHeaderReadsBackTheSame) {
     EXPECT_FALSE(unit_is_open(55));
     // The names line ends in the quote that the format writes after the
     // last tab; the reader passes over it.
-    const lines_t copy = file("copy.txt");
-    EXPECT_EQ(copy[1], file("well210.txt")[1] + "'");
+    const lines_t copy = file_lines("copy.txt");
+    EXPECT_EQ(copy[1], file_lines("well210.txt")[1] + "'");
     welldat.RWD1.fill(0.f);
     read("copy.txt");
     ASSERT_EQ(welldat.ndatwd, 8000);
@@ -149,13 +142,13 @@ TEST_F(Writer, AWellTableWrittenWithTheStandardHeaderReadsBackTheSame) {
         worst = std::max(worst, std::fabs(welldat.RWD1.a[k] - before[k]));
     EXPECT_LT(worst, 1.5e-4f);  // four decimals, and the spacing of 4-byte reals at 3000
     write_well("again.txt");
-    EXPECT_EQ(file("again.txt"), copy);
+    EXPECT_EQ(file_lines("again.txt"), copy);
 }
 
 TEST_F(Writer, AnExtractionKeepsThePassingRowsOfTheSearchedInterval) {
     ihd = 3;
     extract({1, 0, 1, 1, 0, 1}, 2, 5);
-    const lines_t f = file("out.txt");
+    const lines_t f = file_lines("out.txt");
     ASSERT_EQ(f.size(), 23u);
     EXPECT_EQ(lines_t(f.begin() + 10, f.end()),
               (lines_t{" EXTRACTION PARAMETERS", DASH, " Test value               =      1",
@@ -177,7 +170,7 @@ TEST_F(Writer, AnExtractionKeepsThePassingRowsOfTheSearchedInterval) {
     ihd = 1;
     fout = "none.txt";
     extract({0, 0, 0, 0, 0, 0}, 1, 5);
-    EXPECT_EQ(file("none.txt").size(), 2u);
+    EXPECT_EQ(file_lines("none.txt").size(), 2u);
     EXPECT_EQ(count("   SAVED                 =      0"), 1);
 }
 
@@ -185,7 +178,7 @@ TEST_F(Writer, AnExtractionFileIsNeverOverwrittenAndIsAppendedTo) {
     std::ofstream("ase.txt") << "kept\n";
     fout = "ase.txt";
     EXPECT_THROW(write(55, 1), program_stop);
-    EXPECT_EQ(file("ase.txt"), lines_t{"kept"});
+    EXPECT_EQ(file_lines("ase.txt"), lines_t{"kept"});
     type({"", "ase2.txt"});
     run([&] { beginexfile(55, fout, "ASE output"); });
     EXPECT_EQ(count(" ===> RETRYING"), 1);
@@ -198,7 +191,7 @@ TEST_F(Writer, AnExtractionFileIsNeverOverwrittenAndIsAppendedTo) {
               (lines_t{" 1st   line:      1", " last  line:      1", " total line:      5",
                        " test value:      1"}));
     EXPECT_FALSE(unit_is_open(55));
-    const lines_t f = file("ase2.txt");
+    const lines_t f = file_lines("ase2.txt");
     const lines_t head = {DASH, " ASE output", DASH, " BOREHOLE GEOMETRY PARAMETERS", DASH,
                           " Ztop             =      0.000 Zbot             =   1000.000",
                           " Bit Size         =     25.083 C1sat            =     37.000",

@@ -16,10 +16,6 @@ namespace {
 using lines_t = std::vector<std::string>;
 const std::string DASHED_LINE = " -------------------------------------------";
 
-void write_file(const std::string& name, const std::string& text) {
-    std::ofstream(name, std::ios::binary) << text;
-}
-
 // A small four-arm log: feet, inches and millimetres, a NULL, an
 // unreadable value, comments and tabs.
 const std::string SMALL =
@@ -143,12 +139,8 @@ struct ReadLas : WellDialogue {
         type(keys);
         run([] { readwell2(2); });
     }
-    // The frame lines from the head of routine name13 on.
-    lines_t frame(const std::string& first, int n) const {
-        const int k = find(first);
-        EXPECT_GE(k, 0) << first;
-        return k < 0 ? lines_t{} : lines(k, n);
-    }
+    // The n screen lines from the first one equal to first on.
+    lines_t frame(const std::string& first, int n) const { return screen_block(*this, first, n); }
 };
 
 TEST_F(ReadLas, TheDialogueShowsTheFileTheCurvesAndWhatWasRead) {
@@ -234,8 +226,8 @@ TEST_F(ReadLas, ABrokenFileNamesItsLineAndLeavesNoData) {
         read({"1000", "bad.las", "", "", "99"});
         const int k = find(c.line);
         ASSERT_GT(k, 9) << c.line;
-        EXPECT_EQ(lines(k - 10, 9), error_head_lines("  lasopen1   ")) << c.line;
-        EXPECT_EQ(lines(k - 1, 3), (lines_t{" LAS FILE: bad.las", c.line, " input file bad.las closed"}));
+        EXPECT_EQ(lines(k - 10, 12), error_head_lines("  lasopen1   ") +
+                                         (lines_t{" LAS FILE: bad.las", c.line, " input file bad.las closed"}));
         EXPECT_GT(find(" INPUT FILE HAS NOT BEEN READ", k), k);
         EXPECT_EQ(current_id(), 0);
         EXPECT_EQ(welldat.ndatwd, 0);

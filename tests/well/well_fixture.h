@@ -7,6 +7,7 @@
 #include <string>
 
 #include "dialogue.h"
+#include "lines.h"
 #include "plot/pages.h"
 #include "shell/main_program.h"
 #include "well/welldat.h"
@@ -42,12 +43,7 @@ struct WellDialogue : Dialogue {
     // Runs a dialogue that must end by itself; a script that runs out fails.
     template <class F>
     void run(F f) {
-        try {
-            f();
-        } catch (const console_closed&) {
-            FAIL() << "the dialogue asked for more answers than scripted";
-        }
-        EXPECT_TRUE(con.keys.empty()) << con.keys.size() << " answers left over";
+        run_to_end(*this, f);
     }
 
     int current_id() const { return welldat.IDTYPWD(welldat.itypwd); }

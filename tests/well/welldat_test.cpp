@@ -63,17 +63,17 @@ TEST_F(DataType, AnUnknownIdResetsToNoneWithAnErrorFrame) {
     type({""});
     int id = 150;
     run([&] { wdtype(id, 1); });
-    lines_t frame = error_head_lines("  wdtype     ");
-    for (const char* l : {" WELL data id =  150", " NO SUCH DATA TYPE AVALAIBLE", " ==> RESETTING TO:", "     index =    0",
-                          "     id    =    0", "     name  = NONE", " ===> HIT RETURN TO CONTINUE"})
-        frame.push_back(l);
-    frame.push_back(" " + std::string(50, '*'));
-    EXPECT_EQ(screen(), frame);
+    EXPECT_EQ(screen(), (error_head_lines("  wdtype     ") +
+                            lines_t{" WELL data id =  150", " NO SUCH DATA TYPE AVALAIBLE", " ==> RESETTING TO:",
+                                    "     index =    0", "     id    =    0", "     name  = NONE",
+                                    " ===> HIT RETURN TO CONTINUE", " " + std::string(50, '*')}));
     EXPECT_EQ(id, 0);
     EXPECT_EQ(welldat.ndatwd, 0);
 }
 
-TEST_F(DataType, AzCmaxExtendsTypes100And200InPlace) {
+// AzCmax extends the types 100 and 200 in place; from another type, or a
+// second time, it is refused.
+TEST_F(DataType, AzCmaxExtendsTypes100And200InPlaceOnce) {
     load(100);
     int id = 110;
     wdtype(id, 11);
@@ -82,18 +82,16 @@ TEST_F(DataType, AzCmaxExtendsTypes100And200InPlace) {
     EXPECT_EQ(welldat.ndatwd, 42);
     EXPECT_EQ(welldat.RWD1(42, 1), 1234.5f);
     EXPECT_TRUE(screen().empty());
-}
 
-TEST_F(DataType, AnExtensionFromTheWrongTypeOrASecondOneIsRefused) {
     load(200);
     type({""});
-    int id = 110;
     run([&] { wdtype(id, 11); });
-    int f = find(" DATA EXTENSION FAILURE:");
-    ASSERT_GT(f, 0);
-    EXPECT_EQ(lines(f - 9, 9), error_head_lines("  wdtype     "));
-    EXPECT_EQ(lines(f, 4), (lines_t{" DATA EXTENSION FAILURE:", " INITIAL DATA TYPE = Depth,P1Az,C1,C2,RB,DEVI,HAZI",
-                                    " FINAL   DATA TYPE = Depth,P1Az,C1,C2,AzCmax", " ===> NO ACTION"}));
+    const int f = find(" DATA EXTENSION FAILURE:");
+    ASSERT_GT(f, 8);
+    EXPECT_EQ(lines(f - 9, 13), (error_head_lines("  wdtype     ") +
+                                    lines_t{" DATA EXTENSION FAILURE:",
+                                            " INITIAL DATA TYPE = Depth,P1Az,C1,C2,RB,DEVI,HAZI",
+                                            " FINAL   DATA TYPE = Depth,P1Az,C1,C2,AzCmax", " ===> NO ACTION"}));
     EXPECT_EQ(id, 200);
     EXPECT_EQ(welldat.ndatwd, 42);
 
@@ -117,16 +115,13 @@ TEST_F(DataType, TheMenuListsTheTypesAndTakesNoneThoughNotListed) {
     // The current type above the menu.
     EXPECT_EQ(lines(3, 7), (lines_t{DASH, " CURRENT WELL DATA TYPE", DASH, " Type name    : Depth,P1Az,C1,C2,RB,DEVI,HAZI",
                                     " Type ID      : 200", " Type index   :   3", " Maximum index:   5"}));
-    int m = find(" SELECT DATA TYPE:");
-    ASSERT_GT(m, 0);
-    EXPECT_EQ(lines(m, 9), (lines_t{" SELECT DATA TYPE:", " Name                         ID = Command",
+    EXPECT_EQ(screen_block(*this, " SELECT DATA TYPE:", 9), (lines_t{" SELECT DATA TYPE:", " Name                         ID = Command",
                                     " Depth,P1Az,C1,C2 .....................100", " Depth,P1Az,C1,C2,AzCmax ..............110",
                                     " Depth,P1Az,C1,C2,RB,DEVI,HAZI ........200", " Depth,P1Az,C1,C2,RB,DEVI,HAZI,AzCmax .210",
                                     " Depth,CAL ............................300", DASH,
                                     " EXIT ..................................99"}));
-    int u = find(" UNKNOWN TYPE ID =    150");
-    ASSERT_GT(u, 0);
-    EXPECT_EQ(screen()[std::size_t(u + 1)], " ==> BACK TO MENU WITHOUT ACTION");
+    EXPECT_EQ(screen_block(*this, " UNKNOWN TYPE ID =    150", 2),
+              (lines_t{" UNKNOWN TYPE ID =    150", " ==> BACK TO MENU WITHOUT ACTION"}));
     EXPECT_EQ(id, 0);
     EXPECT_EQ(current_id(), 0);
 }
@@ -153,7 +148,7 @@ TEST_F(DataType, TheSelectionWithoutMenuAndWithAnUnknownId) {
 
 // ---------------------------------------------------------------------------
 
-TEST_F(DataType, TheStatusListsVariablesAndArrayColumns) {
+TEST_F(DataType, TheStatusListsVariablesAndArrayColumnsAtTheLevelTheDialogueSets) {
     type({"100", "110", "99", "1000", sample("well110.txt"), "99", "99", "1000", "99"});
     run([] { readwell2(2); });
     ASSERT_EQ(welldat.ndatwd, 1000);
@@ -169,19 +164,18 @@ TEST_F(DataType, TheStatusListsVariablesAndArrayColumns) {
     EXPECT_EQ(lines(31, 6), (lines_t{" | 5| AzCmax          | 6| Nodata.6        |", " | 7| Nodata.7        | 8| Nodata.8        |",
                                      " | 9| Nodata.9        |10| Nodata.10       |", " |11| Nodata.11       |12| Nodata.12       |",
                                      " |13| Nodata.13       |14| Nodata.14       |", " |15| Nodata.15       |"}));
-}
 
-TEST_F(DataType, TheStatusDialogueChangesTheListLevel) {
-    int ilist = 0;
+    // The dialogue changes the list level, remembered for mode 3: level 1
+    // leaves the array columns out.
+    clear();
     type({"100", "1", "99"});
     run([&] { status(ilist, 2); });
     EXPECT_EQ(ilist, 1);
     EXPECT_EQ(count(" WELL DATA STATUS"), 2);
-    EXPECT_EQ(count(" |          VARIABLE <-> ARRAY NB + COLUMN |"), 1);
-    int s = find("            DISPLAY SET UP");
-    ASSERT_GT(s, 0);
-    EXPECT_EQ(screen()[std::size_t(s + 1)], " current =      0");
-    // Remembered for mode 3.
+    EXPECT_EQ(count(" |          VARIABLE <-> ARRAY NB + COLUMN |"), 2);
+    EXPECT_EQ(count(" | 5| AzCmax          | 6| Nodata.6        |"), 1);
+    EXPECT_EQ(screen_block(*this, "            DISPLAY SET UP", 2),
+              (lines_t{"            DISPLAY SET UP", " current =      3"}));
     int other = 0;
     status(other, 3);
     EXPECT_EQ(other, 1);
