@@ -10,9 +10,10 @@
 #include "dialogue.h"
 
 // The n screen lines from the first one equal to s at or after from on, or
-// none when there is no such line or fewer lines follow it.
+// none when there is no such line, fewer lines follow it or from is -1 (a
+// line not found).
 inline std::vector<std::string> screen_block(const Dialogue& d, const std::string& s, int n, int from = 0) {
-    const int k = d.find(s, from);
+    const int k = from < 0 ? -1 : d.find(s, from);
     return k < 0 || k + n > int(d.screen().size()) ? std::vector<std::string>{} : d.lines(k, n);
 }
 

@@ -228,9 +228,8 @@ TEST_F(store, BinSettingDialogueAndItsWidthCommand) {
     // The last menu, line by line.
     int last = 0;
     for (int k = 0; k >= 0; k = find(" X axis bin setting", k + 1)) last = k;
-    EXPECT_EQ(lines(last, 14), (lines_t{" X axis bin setting", RULE,
-                                        " Histogram nb            :   1", " Current nb of histograms:   2",
-                                        " Maximum nb of histograms:  12",
+    EXPECT_EQ(lines(last, 14), (lines_t{" X axis bin setting", RULE, " Histogram nb            :   1",
+                                        " Current nb of histograms:   2", " Maximum nb of histograms:  12",
                                         " x-label ........................120 X-undefined              ",
                                         " value mini .....................200   0.0000    ",
                                         " value maxi .....................300   360.00    ",
@@ -238,8 +237,7 @@ TEST_F(store, BinSettingDialogueAndItsWidthCommand) {
                                         " bins within major tics .........450     30",
                                         " major intervals between labels .460      1",
                                         " interval size ..................500   12.000    ",
-                                        " EXIT ............................99",
-                                        " " + std::string(50, '@')}));
+                                        " EXIT ............................99", " " + std::string(50, '@')}));
     // A width above the range leaves no bin: the largest number, not one.
     type({"500", "1000", "99"});
     shstxbin2(lo, hi, nbin, nxtic, nxlab, lab, h, 2);

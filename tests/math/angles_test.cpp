@@ -84,7 +84,7 @@ TEST_F(angles, WrapIntoOriginAndPeriodOrAroundZero) {
     EXPECT_EQ(keep, 99);
 }
 
-TEST_F(angles, PolarAndCartesian) {
+TEST_F(angles, PolarCartesianCirclesAndArcs) {
     float x[6] = {0, -1, -1, 0, 3, -1};
     float y[6] = {0, 0, -0.0f, -1, 4, -1};
     float r[6], t[6];
@@ -104,15 +104,14 @@ TEST_F(angles, PolarAndCartesian) {
         EXPECT_NEAR(r[i], x[i], 1e-6f);
         EXPECT_NEAR(t[i], y[i], 1e-6f);
     }
-}
 
-TEST_F(angles, CirclesAndArcs) {
-    float x[8], y[8];
-    circle(x, y, 5, 1.0f, 2.0f, 2.0f);
-    arcirclerad(x + 5, y + 5, 3, 10.0f, 0.0f, 1.0f, 0.0f, anglerad.pinum);
+    // Circles and arcs.
+    float cx[8], cy[8];
+    circle(cx, cy, 5, 1.0f, 2.0f, 2.0f);
+    arcirclerad(cx + 5, cy + 5, 3, 10.0f, 0.0f, 1.0f, 0.0f, anglerad.pinum);
     const float ex[8] = {3, 1, -1, 1, 3, 11, 10, 9}, ey[8] = {2, 4, 2, 0, 2, 0, 1, 0};
     for (int i = 0; i < 8; ++i) {
-        EXPECT_NEAR(x[i], ex[i], 1e-6f) << i;
-        EXPECT_NEAR(y[i], ey[i], 1e-6f) << i;
+        EXPECT_NEAR(cx[i], ex[i], 1e-6f) << i;
+        EXPECT_NEAR(cy[i], ey[i], 1e-6f) << i;
     }
 }

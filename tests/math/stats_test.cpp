@@ -57,19 +57,15 @@ TEST_F(stats, QuartilesOfEvenAndOddSetsAndTheReportAroundThem) {
     EXPECT_EQ(find(" ==========================================="), 0);
     const int s = find(" STANDARD STATISTICS:");
     ASSERT_GT(s, 2);
-    EXPECT_EQ(lines(s, 13), (std::vector<std::string>{
-                                " STANDARD STATISTICS:", " ===========================================",
-                                " Number of data                =        2",
-                                " Minimum                       =  2.0000000    ",
-                                " Lower quartile Q1             =  2.0000000    ",
-                                " Median Q2                     =  4.5000000    ",
-                                " Upper quartile Q3             =  7.0000000    ",
-                                " Maximum                       =  7.0000000    ",
-                                " Average                       =  4.5000000    ",
-                                " Range                         =  5.0000000    ",
-                                " Variance                      =  12.500000    ",
-                                " Standard deviation            =  3.5355339    ",
-                                " -------------------------------------------"}));
+    EXPECT_EQ(lines(s, 13),
+              (std::vector<std::string>{
+                  " STANDARD STATISTICS:", " ===========================================",
+                  " Number of data                =        2", " Minimum                       =  2.0000000    ",
+                  " Lower quartile Q1             =  2.0000000    ", " Median Q2                     =  4.5000000    ",
+                  " Upper quartile Q3             =  7.0000000    ", " Maximum                       =  7.0000000    ",
+                  " Average                       =  4.5000000    ", " Range                         =  5.0000000    ",
+                  " Variance                      =  12.500000    ", " Standard deviation            =  3.5355339    ",
+                  " -------------------------------------------"}));
     // One value: a warning, and every quartile is that value.
     EXPECT_EQ(quartiles({3}), (std::vector<double>{3, 3, 3, 3, 3}));
     EXPECT_GT(find(" NOT ENOUGH DATA:"), 0);

@@ -169,7 +169,7 @@ TEST_F(attributes, NumberOfColours) {
     expect_screen({" max nb of color  =     18", " INITIALIZING NUMBER OF COLORS TO:      4", " ==> Color plot"});
 }
 
-TEST_F(attributes, ColourTableMenuSetsOneColour) {
+TEST_F(attributes, ColourTableMenuSetsOneColourOrReadsThemFromAFile) {
     type({"200", "2", "20", "Crimson", "30", "80", "10", "20", "99", "99"});
     scolortable(0);
     EXPECT_EQ(name_of(2), "Crimson ");
@@ -180,9 +180,8 @@ TEST_F(attributes, ColourTableMenuSetsOneColour) {
     type({"200", "2", "30", "0", "0", "0", "98", "99"});
     scolortable(0);
     EXPECT_EQ(plt2blk.RED(2), 80.0f);
-}
 
-TEST_F(attributes, ColourTableIsReadFromAFile) {
+    // A table read from a file.
     std::ofstream("colours.txt") << "3\n0 100 100 100 'Paper'\n1, 0, 0, 0, 'Ink'\n\n"
                                  << "2 10 20 30 'Chartreuse green'\n3 0 0 100 Blue\n";
     type({"300", "colours.txt", "99"});
@@ -210,7 +209,7 @@ TEST_F(attributes, ColourTableIsReadFromAFile) {
 // ---------------------------------------------------------------------------
 // Panels and the menu
 
-TEST_F(attributes, MenuSetsLineWidthAndTextSizeFromTheDefaults) {
+TEST_F(attributes, MenuAndPanelsOfLineWidthTextSizeFillColourAndSymbolType) {
     float s = 2.0f;
     stextsize(s, 1);
     type({"10", "0.2", "1", "n", "31", "", "99"});
@@ -220,9 +219,8 @@ TEST_F(attributes, MenuSetsLineWidthAndTextSizeFromTheDefaults) {
     // Before and after the answer 1 and no.
     expect_screen({"  from currently stored..... 1 T", "  from initialisation....... 1 T",
                    " present value in cm .......    0.020"});
-}
 
-TEST_F(attributes, PanelsOfFillColourAndSymbolType) {
+    // The panels of fill colour and symbol type.
     type({"13"});
     int c = 0;
     sfillcolor(c, 2);

@@ -50,18 +50,16 @@ struct box_args {
 
 }  // namespace
 
-TEST_F(axis_setup, BoundsAndRefusedAxisNumbers) {
+TEST_F(axis_setup, BoundsRefusedAxisNumbersTheIncrementCheckAndTheUserRangeLink) {
     axis_args a;
     a.set(7, 3);
     a.usa1 = -3, a.usa2 = 250;
     a.set(7, 1);
     float u1 = 1, u2 = 2;
     g1axbd(u1, u2, 7);
-    EXPECT_EQ(u1, -3.0f);
-    EXPECT_EQ(u2, 250.0f);
+    EXPECT_EQ((std::vector<float>{u1, u2}), (std::vector<float>{-3, 250}));
     g1axbd(u1, u2, 16);
-    EXPECT_EQ(u1, 0.0f);
-    EXPECT_EQ(u2, 10.0f);
+    EXPECT_EQ((std::vector<float>{u1, u2}), (std::vector<float>{0, 10}));
     EXPECT_EQ(block(" trying to get bounds of axis nb =     16", 3),
               (lines_t{" trying to get bounds of axis nb =     16", " max axis nb =     15", " ===> RETURNING [0, 10]"}));
     EXPECT_TRUE(screen_has(error_name("  g1axbd     ")));
@@ -70,10 +68,9 @@ TEST_F(axis_setup, BoundsAndRefusedAxisNumbers) {
     a.set(16, 1);
     EXPECT_TRUE(screen_has(" trying to set axis nb =     16"));
     for (int i = 1; i <= MAXAXIS; ++i) EXPECT_EQ(axisblk7a.WAU1(i), 0.0f) << i;
-}
 
-TEST_F(axis_setup, IncrementIsCheckedAndTheUserRangeFollowsTheLink) {
-    axis_args a;
+    // The increment is checked; the user range follows the link.
+    a = axis_args{};
     a.set(2, 3);
     a.wau1 = 10, a.wau2 = 0, a.waud = 5, a.usa1 = 100, a.usa2 = 200;
     a.set(2, 1);

@@ -78,7 +78,7 @@ TEST_F(device, AFileWithNoDrawingHoldsHeadOnePageAndTrailerInEachPageFormat) {
     EXPECT_EQ(count(" The PostScript plot file is closed"), 4);
 }
 
-TEST_F(device, DefaultsFileIsReadAndWhenBadRewritten) {
+TEST_F(device, DefaultsFileIsReadRewrittenWhenBadAndChangedByTheUser) {
     // No file: Portrait A4, and the file is created.
     open_plot("a.ps");
     close_plot();
@@ -102,9 +102,8 @@ TEST_F(device, DefaultsFileIsReadAndWhenBadRewritten) {
     EXPECT_EQ(read_lines("quarp9_ini.txt"), (lines_t{"  1 'Portrait A4'", " "}));
     EXPECT_EQ(slice(read_lines("c.ps"), 3, 1), lines_t{"%%BoundingBox:    0    0  595  842"});
     for (const char* f : {"a.ps", "b.ps", "c.ps"}) EXPECT_GS_RENDERS(f);
-}
 
-TEST_F(device, UserChangesThePageFormat) {
+    // The user changes the format.
     write_file("quarp9_ini.txt", " 1 'Portrait A4'\n \n");
     con.type("n");
     con.type("4");
@@ -225,7 +224,7 @@ TEST_F(device, AFullDiskEndsThePlotFileWithOneErrorFrame) {
     EXPECT_TRUE(screen_has(" The PostScript plot file is closed"));
 }
 
-TEST_F(device, MovetoModesLineWidthAndLinetoWithoutMove) {
+TEST_F(device, MovetoModesLinetoWithoutMoveAndCoordinatesPastTheLimit) {
     open_format(1, "mv.ps");
     con.screen.clear();
     float x = 1.5f, y = -2.25f;
@@ -245,18 +244,15 @@ TEST_F(device, MovetoModesLineWidthAndLinetoWithoutMove) {
     if (r.available) {
         EXPECT_FALSE(r.ok);
     }
-}
 
-TEST_F(device, CoordinatePastTheLimitIsResetWithAWarningEach) {
+    // Coordinates past the limit are reset, with a warning each.
     open_format(1, "lim.ps");
     con.screen.clear();
-    float x = 1.0e8f, y = -2.0e8f;
+    x = 1.0e8f, y = -2.0e8f;
     psmoveto(x, y, 1);
-    EXPECT_EQ(x, 9.9e7f);
-    EXPECT_EQ(y, -9.9e7f);
-    float lx[1] = {5.0f}, ly[1] = {1.0e9f};
+    lx[0] = 5.0f, ly[0] = 1.0e9f;
     pslineto(lx, ly, 1);
-    EXPECT_EQ(ly[0], 9.9e7f);
+    EXPECT_EQ((std::vector<float>{x, y, ly[0]}), (std::vector<float>{9.9e7f, -9.9e7f, 9.9e7f}));
     psstrokepath();
     EXPECT_EQ(new_lines(), (lines_t{"newpath", " 99000000. -99000000. moveto", "5.00  99000000. lineto", "stroke"}));
     EXPECT_EQ(count(con.screen, " ///                  WARNING                   ///"), 3);

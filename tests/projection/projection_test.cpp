@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "dialogue.h"
+#include "lines.h"
 #include "math/angles.h"
 #include "projection/projection.h"
 
@@ -132,10 +133,9 @@ TEST_F(Projection, OrthogonalKeepsTwoCoordinatesAndAnUnknownKindIsChosenAgain) {
     projcatype.iproj = 9;
     type({"3", "2"});
     project();
-    lines_t expect = error_head_lines("projxyzn     ");
-    expect.insert(expect.end(), {"  iproj =      9", "  NO SUCH PROJECTION AVALAIBLE ",
-                                 "  WILL TRY TO RESET PROJECTION BELOW ", " " + std::string(50, '*')});
-    EXPECT_EQ(lines(0, int(expect.size())), expect);
+    EXPECT_EQ(lines(0, 13), (error_head_lines("projxyzn     ") +
+                             lines_t{"  iproj =      9", "  NO SUCH PROJECTION AVALAIBLE ",
+                                     "  WILL TRY TO RESET PROJECTION BELOW ", " " + std::string(50, '*')}));
     EXPECT_EQ(orthocom.iortho, 2);
     EXPECT_EQ(y[6], Z[6]);
     // Out of range from the caller, the menu shows even in a silent mode.
@@ -155,45 +155,32 @@ TEST_F(Projection, MenusOfEachKind) {
     sprojxyz(iproj, 2);
     const std::string R40 = " " + std::string(40, '-'), R42 = " " + std::string(42, '-'),
                       R39 = " " + std::string(39, '-');
-    const int m = find("  Setting up Projection (X,Y,Z) -> (x,y) ");
-    EXPECT_EQ(lines(m - 1, 8), (lines_t{R40, "  Setting up Projection (X,Y,Z) -> (x,y) ",
-                                        "         AVAILABLE PROJECTIONS:          ", R40,
-                                        "  Axonometric  .........................1",
-                                        "  Natural perpective ...................2",
-                                        "  Orthogonal projection ................3",
-                                        " " + std::string(50, '@')}));
-    const int a = find(" AVAILABLE AXONOMETRIC PROJECTIONS:        ");
-    EXPECT_EQ(lines(a - 1, 10),
-              (lines_t{R42, " AVAILABLE AXONOMETRIC PROJECTIONS:        ", R42,
+    EXPECT_EQ(screen_block(*this, "  Setting up Projection (X,Y,Z) -> (x,y) ", 7),
+              (lines_t{"  Setting up Projection (X,Y,Z) -> (x,y) ", "         AVAILABLE PROJECTIONS:          ", R40,
+                       "  Axonometric  .........................1", "  Natural perpective ...................2",
+                       "  Orthogonal projection ................3", " " + std::string(50, '@')}));
+    EXPECT_EQ(screen_block(*this, " AVAILABLE AXONOMETRIC PROJECTIONS:        ", 9),
+              (lines_t{" AVAILABLE AXONOMETRIC PROJECTIONS:        ", R42,
                        " Axonometric general ....................1 ", " cavaliere fuite x ......................2 ",
                        " cavaliere fuite y ......................3 ", " isometric ..............................4 ",
                        " trimetric ..............................5 ", " dimetric ...............................6 ",
                        " dimetric upturned ......................7 "}));
     // The general kind starts from the stored isometric values; the last
     // panel shows the answers.
-    const int g = find(" Current parameters (angles in degrees):", find(" Enter reduction"));
-    EXPECT_EQ(lines(g - 1, 11), (lines_t{R39, " Current parameters (angles in degrees):", R39,
-                                         "  Ox angle.....................1   40.00",
-                                         "  Oy angle.....................2  150.00",
-                                         "  Oz angle.....................3   90.00",
-                                         "  Ox reduction.................4    0.82",
-                                         "  Oy reduction.................5    0.82",
-                                         "  Oz reduction.................6    0.50", R39,
-                                         " PARAMETERS ARE OK, PROCEED...99"}));
+    EXPECT_EQ(screen_block(*this, " Current parameters (angles in degrees):", 10, find(" Enter reduction")),
+              (lines_t{" Current parameters (angles in degrees):", R39, "  Ox angle.....................1   40.00",
+                       "  Oy angle.....................2  150.00", "  Oz angle.....................3   90.00",
+                       "  Ox reduction.................4    0.82", "  Oy reduction.................5    0.82",
+                       "  Oz reduction.................6    0.50", R39, " PARAMETERS ARE OK, PROCEED...99"}));
 
     clear();
     sprojxyz(iproj, 2);
-    const int v = find(" View direction angles (in degrees):", find(" New value =             7"));
-    EXPECT_EQ(lines(v, 10), (lines_t{" View direction angles (in degrees):",
-                                     "  azimuth......................1   30.00",
-                                     "  altitude.....................2  -45.00",
-                                     " View point cartesian coordinates in E:",
-                                     "  X............................3  -10.00",
-                                     "  Y............................4    0.00",
-                                     "  Z............................5   10.00",
-                                     " Distance to 1:1 scale plane:",
-                                     "  Distance.....................6   14.14",
-                                     "  Set scale 1:1 at Oe..........7"}));
+    EXPECT_EQ(screen_block(*this, " View direction angles (in degrees):", 10, find(" New value =             7")),
+              (lines_t{" View direction angles (in degrees):", "  azimuth......................1   30.00",
+                       "  altitude.....................2  -45.00", " View point cartesian coordinates in E:",
+                       "  X............................3  -10.00", "  Y............................4    0.00",
+                       "  Z............................5   10.00", " Distance to 1:1 scale plane:",
+                       "  Distance.....................6   14.14", "  Set scale 1:1 at Oe..........7"}));
     EXPECT_FLOAT_EQ(nppf.dpp, std::sqrt(200.0f));
 
     sprojxyz(iproj, 2);

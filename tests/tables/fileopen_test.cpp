@@ -27,7 +27,7 @@ struct FileOpen : Dialogue {
 };
 using Lines = std::vector<std::string>;
 
-TEST_F(FileOpen, OpensTheTypedNameAndKeepsItsBaseName) {
+TEST_F(FileOpen, OpefOneOpensTheTypedNameRetriesOrProceedsWithout) {
     type({"sub/fileopen_present.txt"});
     int e = -1;
     opef1(name, "data                ", 12, "old", "read", 0, -1, e);
@@ -40,22 +40,20 @@ TEST_F(FileOpen, OpensTheTypedNameAndKeepsItsBaseName) {
     std::string rec;
     EXPECT_TRUE(unit_read(12, rec));
     EXPECT_EQ(rec, "x");
-}
 
-TEST_F(FileOpen, RetryThenProceedWithout) {
     // return takes the default name; the pause; 1 retries; then return again,
     // the pause, and 0 gives up.
+    unit_close(12);
+    name = "fileopen_missing.txt";
     type({"", "", "1", "", "", "0"});
-    int e = 0;
     opef1(name, "data", 12, "old", "read", 0, -1, e);
     EXPECT_EQ(e, 1);
     EXPECT_EQ(count(" ===> RETRYING TO OPEN THE FILE"), 2);
     EXPECT_EQ(count(" File name = fileopen_missing.txt"), 2);
     EXPECT_EQ(count(" for unit =   12"), 2);
-    int c = find(" Could not open data file");
+    const int c = find(" Could not open data file");
     ASSERT_GT(c, 0);
-    EXPECT_EQ(screen()[std::size_t(c - 1)], " " + std::string(43, '-'));
-    EXPECT_EQ(screen()[std::size_t(c + 1)], " => Proceeding");
+    EXPECT_EQ(lines(c - 1, 3), (Lines{" " + std::string(43, '-'), " Could not open data file", " => Proceeding"}));
     EXPECT_FALSE(unit_is_open(12));
 }
 

@@ -97,15 +97,14 @@ TEST_F(Reader, TheHeaderDisplayLabelsEachLineAndCutsLongOnes) {
     EXPECT_GT(find(" EXITING WITHOUT READING DATA FILE"), 0);
 }
 
-TEST_F(Reader, AnUnquotedTitleKeepsItsFirstWord) {
+TEST_F(Reader, AnUnquotedTitleKeepsItsFirstWordAndATitleLineBeyondTheHeaderIsResetAndNotRead) {
     write_file("word.txt", "Well A 2024\n'Depth' 'C1' 'C2'\n1 2 3\n");
     type({"word.txt", "99", "99", "1000"});
     finish([&] { read(0); });
     EXPECT_EQ(title.trimmed(), "Well");
     EXPECT_EQ(nlines, 1);
-}
 
-TEST_F(Reader, ATitleLineBeyondTheHeaderIsResetAndNotRead) {
+    // A title line beyond the header is reset and not read.
     write_file("t.txt", numbered(2));
     nld = 3, isk = 2, iti = 3, ihd = 2;
     type({"", "", ""});  // the reset warning, then the title not read, twice

@@ -60,27 +60,22 @@ TEST_F(Writer, BadCodesAreResetTheMenuSetsFormatAndHeaderAndAClosedFileSendsBack
     lines_t frames;
     for (int k = find(head); k >= 0; k = find(head, k + 1))
         for (const auto& l : lines(k + 6, 4)) frames.push_back(l);
-    EXPECT_EQ(frames, (lines_t{" file managment pb", " ioca     =      7", " not in [0,3]",
-                               " ==> RESET TO      1", " format pb", " ifmtouta =      0",
-                               " not in [1,2]", " ==> RESET TO      1", " format pb",
-                               " ifmtouta =      5", " not in [1,2]", " ==> RESET TO      2"}));
+    EXPECT_EQ(frames, (lines_t{" file managment pb", " ioca     =      7", " not in [0,3]", " ==> RESET TO      1",
+                               " format pb", " ifmtouta =      0", " not in [1,2]", " ==> RESET TO      1",
+                               " format pb", " ifmtouta =      5", " not in [1,2]", " ==> RESET TO      2"}));
     const int m = find(" CURRENT FILE MANAGEMENT");
     EXPECT_EQ(lines(m - 3, 32),
               (lines_t{" @ subroutine writereal             v5.0 2024-06-07",
-                       " @=================================================", DASH,
-                       " CURRENT FILE MANAGEMENT", DASH, " index:      1", " unit :     55",
-                       " name : out.txt", DASH, " CURRENT FORMAT", DASH, " name : f15.4,tab",
-                       " index:      1", " ---------------------", " modify format:",
-                       " Format......................Command",
-                       " f15.4,tab........................11",
+                       " @=================================================", DASH, " CURRENT FILE MANAGEMENT", DASH,
+                       " index:      1", " unit :     55", " name : out.txt", DASH, " CURRENT FORMAT", DASH,
+                       " name : f15.4,tab", " index:      1", " ---------------------", " modify format:",
+                       " Format......................Command", " f15.4,tab........................11",
                        " f15.4,space......................12", DASH, " CURRENT HEADER", DASH,
-                       " name : Full: Prog + data info + Std", " index:      2",
-                       " ---------------------", " modify header:",
-                       " Header......................Command",
-                       " Standard: Title + Col headers....21",
-                       " Full: Prog + data info + Std.....22", DASH,
-                       " SET UP IS OK, WRITE & EXIT ......90",
-                       " EXIT WITHOUT WRITING ............99", " " + std::string(50, '@')}));
+                       " name : Full: Prog + data info + Std", " index:      2", " ---------------------",
+                       " modify header:", " Header......................Command",
+                       " Standard: Title + Col headers....21", " Full: Prog + data info + Std.....22", DASH,
+                       " SET UP IS OK, WRITE & EXIT ......90", " EXIT WITHOUT WRITING ............99",
+                       " " + std::string(50, '@')}));
     EXPECT_EQ(count(" CURRENT HEADER"), 4);  // 12, 22 and 13 each show it again
 
     // A file that must be open and isn't: back to the menu, or without a
@@ -91,9 +86,8 @@ TEST_F(Writer, BadCodesAreResetTheMenuSetsFormatAndHeaderAndAClosedFileSendsBack
     run([&] { write(55, 0); });
     const int k = find(" is not already opened");
     EXPECT_EQ(lines(k - 3, 6),
-              (lines_t{" output file status:", " file name: out.txt", " unit     :     55",
-                       " is not already opened", " ==> it must be opened before writing",
-                       " ==> back to menu in interactive mode"}));
+              (lines_t{" output file status:", " file name: out.txt", " unit     :     55", " is not already opened",
+                       " ==> it must be opened before writing", " ==> back to menu in interactive mode"}));
     EXPECT_EQ(count(" CURRENT FILE MANAGEMENT"), 2);
     ioca = 3;
     write(55, 1);
@@ -109,8 +103,7 @@ TEST_F(Writer, OnTheTerminalNothingIsClosed) {
               (lines_t{" 'Three columns'", " C2              Depth           C1             ",
                        "         24.0000        100.0000         25.5000",
                        "       1234.5677        100.5000         -3.2500"}));
-    EXPECT_EQ(lines(k + 11, 3), (lines_t{" NUMBER OF SAVED COLUMNS =    3",
-                                         " NUMBER OF SAVED LINES   =    2",
+    EXPECT_EQ(lines(k + 11, 3), (lines_t{" NUMBER OF SAVED COLUMNS =    3", " NUMBER OF SAVED LINES   =    2",
                                          " OUTPUT FILE out.txt REMAINS OPEN"}));
 }
 
@@ -152,20 +145,16 @@ TEST_F(Writer, AnExtractionKeepsThePassingRowsOfTheSearchedInterval) {
     ASSERT_EQ(f.size(), 23u);
     EXPECT_EQ(lines_t(f.begin() + 10, f.end()),
               (lines_t{" EXTRACTION PARAMETERS", DASH, " Test value               =      1",
-                       " 1st  searched line       =      2",
-                       " last searched line       =      5",
-                       " Total number of data     =      5",
-                       " Number of searched data  =      4",
+                       " 1st  searched line       =      2", " last searched line       =      5",
+                       " Total number of data     =      5", " Number of searched data  =      4",
                        " Number of extracted data =      2", DASH, " 'Extract'",
                        " 'C2              '\t'Depth           '\t'C1              '\t'",
                        "          7.0000\t       101.0000\t         0.0000\t",
                        "          2.0000\t       101.5000\t         1.0000\t"}));
     const int k = find(" NUMBER OF LINES:");
     EXPECT_EQ(lines(k, 6), (lines_t{" NUMBER OF LINES:", "   SAVED                 =      2",
-                                    "   IN SEARCH INTERVAL    =      4",
-                                    "   IN FULL DATA SET      =      5",
-                                    "   IN ARRAY SIZE         =      6",
-                                    " OUTPUT FILE out.txt CLOSED"}));
+                                    "   IN SEARCH INTERVAL    =      4", "   IN FULL DATA SET      =      5",
+                                    "   IN ARRAY SIZE         =      6", " OUTPUT FILE out.txt CLOSED"}));
     // No row passes: the heads alone.
     ihd = 1;
     fout = "none.txt";

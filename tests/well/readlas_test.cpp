@@ -148,16 +148,13 @@ TEST_F(ReadLas, TheDialogueShowsTheFileTheCurvesAndWhatWasRead) {
     // Read, type 100 as offered, curves as found, bit size from BS.
     read({"1000", "small.las", "", "", "", "99"});
     EXPECT_EQ(frame(" LAS FILE: small.las", 18),
-              (lines_t{" LAS FILE: small.las", " LAS version: 2.0   wrapped: NO",
-                       " well name  : TEST WELL 7", " NULL value : -999.25",
-                       " curves     :      5",
+              (lines_t{" LAS FILE: small.las", " LAS version: 2.0   wrapped: NO", " well name  : TEST WELL 7",
+                       " NULL value : -999.25", " curves     :      5",
                        "   1 DEPT       FT       2 GR         GAPI     3 P1AZ       DEG   ",
-                       "   4 C1         IN       5 C2         MM    ",
-                       " -------------------------------------------",
+                       "   4 C1         IN       5 C2         MM    ", " -------------------------------------------",
                        " depth curve: DEPT   unit: FT", " depth from    1000.0000 to    1001.5000 FT",
-                       " step       : 0.5", " rows in file      :      4",
-                       " rows without depth:      0", " bit size BS:     8.5000 IN",
-                       " @@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@",
+                       " step       : 0.5", " rows in file      :      4", " rows without depth:      0",
+                       " bit size BS:     8.5000 IN", " @@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@",
                        " @@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@",
                        " @ subroutine typeselect1           v1.3 2019-07-26",
                        " @================================================="}));

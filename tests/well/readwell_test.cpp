@@ -167,7 +167,7 @@ TEST_F(ReadWell, LettersInANumberStopTheReadAndTheRecoveryMenuRetriesOrTakesANew
     EXPECT_EQ(welldat.finwd.trimmed(), "well200.txt");
 }
 
-TEST_F(ReadWell, AShortLineIsCompleteForFewerColumnsAndTakesFromTheNextForMore) {
+TEST_F(ReadWell, AShortLineAndAFileWithoutHeaderLinesAreReadAsTheyCome) {
     read_defaults(sample("broken_short_line.txt"));
     read();
     EXPECT_EQ(current_id(), 200);
@@ -182,9 +182,8 @@ TEST_F(ReadWell, AShortLineIsCompleteForFewerColumnsAndTakesFromTheNextForMore) 
     EXPECT_EQ(welldat.RWD1(5, 8), 2000.762f);
     EXPECT_EQ(welldat.RWD1(6, 1), 2000.9144f);
     EXPECT_GT(find(" Number of read data =      19"), 0);
-}
 
-TEST_F(ReadWell, WithoutHeaderLinesTheDefaultLayoutTakesTwoSamplesAsHeader) {
+    // Without header lines the default layout takes two samples as its header.
     read_defaults(sample("broken_no_header.txt"));
     read();
     EXPECT_EQ(welldat.ndatwd, 18);

@@ -31,7 +31,7 @@ struct DataType : WellDialogue {
     }
 };
 
-TEST_F(DataType, EachTypeSetsItsVariablesInTheFirstColumns) {
+TEST_F(DataType, EachTypeSetsItsVariablesTheSameKeepsTheDataAnotherForgetsThem) {
     int id = 210;
     wdtype(id, 1);
     EXPECT_EQ(variables(), (lines_t{"Depth@1", "P1Az@2", "C1@3", "C2@4", "RB@5", "DEVI@6", "HAZI@7", "AzCmax@8"}));
@@ -39,12 +39,11 @@ TEST_F(DataType, EachTypeSetsItsVariablesInTheFirstColumns) {
     wdtype(id, 1);
     EXPECT_EQ(variables(), (lines_t{"Depth@1", "CAL@2"}));
     EXPECT_EQ(welldat.jc1, 2);
-}
 
-TEST_F(DataType, TheSameTypeKeepsTheDataAnotherOrNoneForgetsThem) {
+    // The same type keeps the data; another, or none, forgets them.
     for (int other : {100, 0}) {
         load(200);
-        int id = 200;
+        id = 200;
         wdtype(id, 1);
         EXPECT_EQ(welldat.ndatwd, 42);
         EXPECT_EQ(welldat.finwd.trimmed(), "loaded.txt");
@@ -106,7 +105,7 @@ TEST_F(DataType, AzCmaxExtendsTypes100And200InPlaceOnce) {
     EXPECT_EQ(welldat.nvarwd, 8);
 }
 
-TEST_F(DataType, TheMenuListsTheTypesAndTakesNoneThoughNotListed) {
+TEST_F(DataType, TheMenuListsTheTypesTakesNoneAndTheSelectionRunsWithoutMenu) {
     type({"0", "150", "99"});
     int id = 200;
     wdtype(id, 1);
@@ -124,12 +123,11 @@ TEST_F(DataType, TheMenuListsTheTypesAndTakesNoneThoughNotListed) {
               (lines_t{" UNKNOWN TYPE ID =    150", " ==> BACK TO MENU WITHOUT ACTION"}));
     EXPECT_EQ(id, 0);
     EXPECT_EQ(current_id(), 0);
-}
 
-TEST_F(DataType, TheSelectionWithoutMenuAndWithAnUnknownId) {
     iocom.LWITO(2) = false;  // level 2 output off: no menu
+    clear();
     type({"300", "99"});
-    int index = 0, id = 0;
+    int index = 0;  // id is 0 already
     run([&] { typeselect1(index, id, "WELL", welldat.TYPWDNAM.data(), welldat.IDTYPWD.data(), 5, 36, 1, 0); });
     EXPECT_EQ(count(" SELECT DATA TYPE:"), 0);
     EXPECT_EQ(index, 5);

@@ -33,7 +33,7 @@ TEST_F(BoreholeParameters, ResetAnnouncesItselfAndMode10ListsTheDefaults) {
     EXPECT_EQ(wellpara.bitsize, 25.0825f);
 }
 
-TEST_F(BoreholeParameters, TheMenuSetsEachFieldAndReturnKeepsIt) {
+TEST_F(BoreholeParameters, TheMenuSetsEachFieldReturnKeepsItAndAnUnknownCommandIsNoError) {
     type({"103", "21.59", "101", "2000", "102", "3220.5", "205", "-90", "104", "", "99"});
     run([] { swellparam(0); });
     EXPECT_EQ(wellpara.zbot, 3220.5f);
@@ -55,9 +55,9 @@ TEST_F(BoreholeParameters, TheMenuSetsEachFieldAndReturnKeepsIt) {
     ASSERT_GT(last, 0);
     EXPECT_EQ(lines(last - 1, int(menu.size())), menu);
     EXPECT_EQ(count(" BOREHOLE PARAMETERS               Command"), 6);
-}
 
-TEST_F(BoreholeParameters, AnUnknownCommandIsNoErrorAndWithoutLevel2OutputTheMenuIsLeftOut) {
+    // An unknown command is no error; without level 2 output the menu is left out.
+    clear();
     type({"55", "99"});
     run([] { swellparam(0); });
     EXPECT_EQ(count(" BOREHOLE PARAMETERS               Command"), 2);
