@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "lines.h"
 #include "plot/attributes.h"
 #include "plot/axes/axes.h"
 #include "plot/ghostscript.h"

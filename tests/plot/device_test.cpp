@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "lines.h"
 #include "plot/device/psdevice.h"
 #include "plot/ghostscript.h"
 #include "plot/plot_session.h"

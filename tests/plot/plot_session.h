@@ -14,7 +14,6 @@
 #include <vector>
 
 #include "dialogue.h"
-#include "lines.h"
 #include "math/angles.h"
 #include "plot/attributes.h"
 #include "plot/pages.h"
@@ -63,7 +62,12 @@ protected:
         ASSERT_FALSE(iocom.lplotopen);
     }
 
-    static std::vector<std::string> read_lines(const std::string& name) { return file_lines(name); }
+    static std::vector<std::string> read_lines(const std::string& name) {
+        std::vector<std::string> v;
+        std::ifstream in(name);
+        for (std::string l; std::getline(in, l);) v.push_back(l);
+        return v;
+    }
     // The lines written to the open plot file since the last call.
     std::vector<std::string> new_lines() {
         unit_flush(UNIT_PLOT);

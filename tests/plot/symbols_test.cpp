@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "lines.h"
 #include "plot/ghostscript.h"
 #include "plot/plot_session.h"
 #include "plot/symbols.h"

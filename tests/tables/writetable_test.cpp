@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "lines.h"
 #include "shell/runinfo.h"
 #include "shell/stop.h"
 #include "tables/writetable.h"

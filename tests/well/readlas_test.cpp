@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "lines.h"
 #include "shell/units.h"
 #include "tables/las.h"
 #include "well_fixture.h"

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "lines.h"
 #include "well_fixture.h"
 
 namespace {

@@ -7,7 +7,6 @@
 #include <string>
 
 #include "dialogue.h"
-#include "lines.h"
 #include "plot/pages.h"
 #include "shell/main_program.h"
 #include "well/welldat.h"
@@ -43,7 +42,12 @@ struct WellDialogue : Dialogue {
     // Runs a dialogue that must end by itself; a script that runs out fails.
     template <class F>
     void run(F f) {
-        run_to_end(*this, f);
+        try {
+            f();
+        } catch (const console_closed&) {
+            FAIL() << "the dialogue asked for more answers than scripted";
+        }
+        EXPECT_TRUE(con.keys.empty()) << con.keys.size() << " answers left over";
     }
 
     int current_id() const { return welldat.IDTYPWD(welldat.itypwd); }

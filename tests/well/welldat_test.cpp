@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "lines.h"
 #include "well_fixture.h"
 
 namespace {
