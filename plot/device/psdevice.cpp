@@ -275,6 +275,8 @@ int psnumtext(char* text, float value) {
     // no blank is written: 2 decimals, at most 10 characters.
     constexpr int maximum = NUMTEXT;
     constexpr float t = 0.01f + 1e-07f;  // 10^-2 + 1e-7, in 4-byte arithmetic
+    // The origin under a mirrored map comes as -0: a point, not a sign.
+    if (value == 0.f) value = 0.f;
     int d = 2;
     const float low = value - t, high = value + t;
     int m = 1, count = 0;
