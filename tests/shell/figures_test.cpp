@@ -20,31 +20,26 @@ lines_t framed(int indent, const lines_t& body) {
 
 struct Figures : Dialogue {};
 
-TEST_F(Figures, SquaresAndTetractysStandAtTheirIndent) {
+TEST_F(Figures, SquaresTetractysAndTheCartoonStandAtTheirIndentBackslashesAndQuotesKept) {
     carmag33();
     sator();
     tetrakis();
-    lines_t want = framed(19, {"-------------", "| 8 | 1 | 6 |", "|---|---|---|", "| 3 | 5 | 7 |",
-                               "|---|---|---|", "| 4 | 9 | 2 |", "-------------"});
-    lines_t s = framed(21, {"S A T O R", "A R E P O", "T E N E T", "O P E R A", "R O T A S"});
-    lines_t t = framed(19, {"      O      ", "    O   O    ", "  O   O   O  ", "O   O   O   O"});
-    want.insert(want.end(), s.begin(), s.end());
-    want.insert(want.end(), t.begin(), t.end());
-    EXPECT_EQ(screen(), want);
-}
-
-TEST_F(Figures, TheClosingCartoonKeepsItsBackslashesAndQuotes) {
     endfun1();
-    EXPECT_EQ(screen(), framed(4, {
-                                      R"(                \|/ ____ \|/    -     -     )",
-                                      R"(       \|/       @~/ ,. \~@   o' \,=./ `o   )",
-                                      R"(      (o -)     /_( \__/ )_\     (o o)      )",
-                                      R"(|-oo0--(_)--0oo----\--U-/----oo0--(_)--0oo-|)",
-                                      R"(|                                          |)",
-                                      R"(|            THAT'S ALL FOLKS !            |)",
-                                      R"(|                                          |)",
-                                      R"(|------------------------------------------|)",
-                                  }));
+    lines_t want;
+    for (const auto& f : {framed(19, {"-------------", "| 8 | 1 | 6 |", "|---|---|---|", "| 3 | 5 | 7 |",
+                                      "|---|---|---|", "| 4 | 9 | 2 |", "-------------"}),
+                          framed(21, {"S A T O R", "A R E P O", "T E N E T", "O P E R A", "R O T A S"}),
+                          framed(19, {"      O      ", "    O   O    ", "  O   O   O  ", "O   O   O   O"}),
+                          framed(4, {R"(                \|/ ____ \|/    -     -     )",
+                                     R"(       \|/       @~/ ,. \~@   o' \,=./ `o   )",
+                                     R"(      (o -)     /_( \__/ )_\     (o o)      )",
+                                     R"(|-oo0--(_)--0oo----\--U-/----oo0--(_)--0oo-|)",
+                                     R"(|                                          |)",
+                                     R"(|            THAT'S ALL FOLKS !            |)",
+                                     R"(|                                          |)",
+                                     R"(|------------------------------------------|)"})})
+        want.insert(want.end(), f.begin(), f.end());
+    EXPECT_EQ(screen(), want);
 }
 
 TEST_F(Figures, TheTemplesRepeatTheirColumnsAndThePerspectiveOneIsCut) {

@@ -52,45 +52,39 @@ TEST_F(MainMenu, ShowsTheMenuAndFastQuitEndsWithoutAQuestion) {
     EXPECT_TRUE(std::filesystem::is_empty("."));
 }
 
-TEST_F(MainMenu, QuitAsksForConfirmationAndReturnConfirms) {
-    type({"999", ""});
-    EXPECT_EQ(run(), 0);
-    const int e = find(" Enter 999 to confirm quit");
-    ASSERT_GT(e, 0);
-    EXPECT_EQ(lines(e, 5), (lines_t{" Enter 999 to confirm quit", " or return for default value",
-                                    " Default =          999", " New value =           999", DOTS}));
-    EXPECT_EQ(passes(), 1);
-    EXPECT_EQ(end_report(), e + 6);
-}
-
-TEST_F(MainMenu, DeclinedQuitGoesOnAndIsNotDispatched) {
-    // 0 declines; 9999 at the confirm prompt declines too and does not end the run.
-    type({"999", "0", "999", "9999", "999", "999"});
-    EXPECT_EQ(run(), 0);
-    EXPECT_EQ(passes(), 3);
-    EXPECT_EQ(count(" Enter 999 to confirm quit"), 3);
-}
-
-TEST_F(MainMenu, UnknownNumbersRedisplayTheMenuSilentlyAndBlankLinesDoNotAnswer) {
-    type({"4711", "", "  ", "-3", "9999"});
-    EXPECT_EQ(run(), 0);
-    EXPECT_EQ(passes(), 3);
-    EXPECT_EQ(count(FAST_QUIT), 3);
-    EXPECT_EQ(count(" Enter your choice"), 3);
-    EXPECT_EQ(find(" ===> HIT RETURN TO CONTINUE"), -1);
-}
-
-TEST_F(MainMenu, ANonNumericAnswerIsAnErrorFrameThenTheQuestionAgain) {
-    type({"abc", "", "9999"});
-    EXPECT_EQ(run(), 0);
-    const int c = find(" could not read your choice");
-    ASSERT_GT(c, 9);
-    EXPECT_EQ(lines(c - 9, 9), error_head_lines("  ininteg1   "));
-    EXPECT_EQ(lines(c, 7), (lines_t{" could not read your choice", " ==> RETRYING",
-                                    " ===> HIT RETURN TO CONTINUE", " " + std::string(50, '*'), DOTS,
-                                    " Enter your choice", " New value =          9999"}));
-    // The error does not redisplay the menu: one pass only.
-    EXPECT_EQ(passes(), 1);
+// Each session by its exit status, the passes of the menu, how often lines
+// show and, where given, a block of lines (under a frame head, if one is given).
+TEST_F(MainMenu, AnswersToTheMenuAndTheQuitQuestion) {
+    const std::string CONFIRM = " Enter 999 to confirm quit";
+    const struct {
+        std::string name;
+        lines_t keys;
+        int status, passes;
+        std::vector<std::pair<std::string, int>> counts;
+        lines_t head, block;
+    } cases[] = {
+        {"return confirms quit", {"999", ""}, 0, 1, {{CONFIRM, 1}}, {},
+         {CONFIRM, " or return for default value", " Default =          999", " New value =           999", DOTS, AT50,
+          " @ PROGRAM tarnolix"}},
+        // 0 declines; 9999 at the confirm prompt declines too and does not end the run.
+        {"declined", {"999", "0", "999", "9999", "999", "999"}, 0, 3, {{CONFIRM, 3}}, {}, {}},
+        {"unknown numbers and blank lines redisplay silently", {"4711", "", "  ", "-3", "9999"}, 0, 3,
+         {{FAST_QUIT, 3}, {" Enter your choice", 3}, {" ===> HIT RETURN TO CONTINUE", 0}}, {}, {}},
+        // The error does not redisplay the menu.
+        {"not a number", {"abc", "", "9999"}, 0, 1, {}, error_head_lines("  ininteg1   "),
+         {" could not read your choice", " ==> RETRYING", " ===> HIT RETURN TO CONTINUE", " " + std::string(50, '*'),
+          DOTS, " Enter your choice", " New value =          9999"}},
+        {"keyboard ends", {"999"}, 2, 1, {{" @ PROGRAM tarnolix", 0}}, {}, {}},
+    };
+    for (const auto& c : cases) {
+        restart(c.keys);
+        EXPECT_EQ(run(), c.status) << c.name;
+        EXPECT_EQ(passes(), c.passes) << c.name;
+        for (const auto& [line, n] : c.counts) EXPECT_EQ(count(line), n) << c.name << ": " << line;
+        if (!c.block.empty()) {
+            EXPECT_EQ(lines(under(c.head, c.block[0]), int(c.block.size())), c.block) << c.name;
+        }
+    }
 }
 
 TEST_F(MainMenu, StatusLayoutAndRunInfoCommandsShowTheirScreens) {
@@ -127,12 +121,6 @@ TEST_F(MainMenu, OutputLevelTwoOffHidesMenusAndDottedLinesUntilBackOn) {
                                         " New value =          5100"}));
     // The menu shows on the first pass and again once level 2 is back.
     EXPECT_EQ(count(FAST_QUIT), 2);
-}
-
-TEST_F(MainMenu, KeyboardThatEndsEndsTheRunWithoutEndReport) {
-    type({"999"});
-    EXPECT_EQ(run(), 2);
-    EXPECT_EQ(end_report(), -1);
 }
 
 // The plot file commands: 10 opens, 20 closes, QUIT closes before it asks.
