@@ -24,24 +24,16 @@ struct fcase {
 // The item as a Fortran expression of the same type and value; reals go by
 // their bits so that nothing is lost in decimal.
 std::string fortran_item(const fitem& it) {
+    if (it.kind == fitem::INT) return "(" + std::to_string(it.i) + ")";
+    if (it.kind == fitem::LOGICAL) return it.l ? ".true." : ".false.";
+    if (it.kind == fitem::CHAR) return gfortran_ref::quote(it.c);
     char buf[64];
-    switch (it.kind) {
-    case fitem::INT:
-        return "(" + std::to_string(it.i) + ")";
-    case fitem::REAL:
-        if (it.isfloat)
-            std::snprintf(buf, sizeof buf, "transfer(int(z'%08X',4),1.0)",
-                          unsigned(std::bit_cast<std::uint32_t>(float(it.r))));
-        else
-            std::snprintf(buf, sizeof buf, "transfer(int(z'%016llX',8),1d0)",
-                          (unsigned long long)std::bit_cast<std::uint64_t>(it.r));
-        return buf;
-    case fitem::LOGICAL:
-        return it.l ? ".true." : ".false.";
-    case fitem::CHAR:
-        return gfortran_ref::quote(it.c);
-    }
-    return "";
+    if (it.isfloat)
+        std::snprintf(buf, sizeof buf, "transfer(int(z'%08X',4),1.0)", unsigned(std::bit_cast<std::uint32_t>(float(it.r))));
+    else
+        std::snprintf(buf, sizeof buf, "transfer(int(z'%016llX',8),1d0)",
+                      (unsigned long long)std::bit_cast<std::uint64_t>(it.r));
+    return buf;
 }
 
 std::vector<fcase> reference_cases() {

@@ -21,15 +21,7 @@ inline std::string file_text(const std::filesystem::path& p) {
     return std::string(std::istreambuf_iterator<char>(in), {});
 }
 
-struct MainMenu : Dialogue {
-    void SetUp() override {
-        Dialogue::SetUp();
-        use_fake_platform();
-    }
-    void TearDown() override {
-        runinfo_platform = runinfo_platform_default();
-        Dialogue::TearDown();
-    }
+struct MainMenu : on_fake_platform<Dialogue> {
     // Another run in the same test starts afresh, with these keys.
     void restart(const std::vector<std::string>& keys) {
         clear();

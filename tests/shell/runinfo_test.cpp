@@ -31,16 +31,7 @@ const std::string SLASH50 = " " + std::string(50, '/');
 const std::string SWPINFO_HEAD = " @ subroutine swpinfo" + std::string(15, ' ') + "v1.1 2021-02-27";
 const lines_t LEVEL3_OF_2 = {" Current subroutine level     =    3", " Information only up to level =    2"};
 
-struct RunInfo : Dialogue {
-    void SetUp() override {
-        Dialogue::SetUp();
-        use_fake_platform();
-        runinfo3com = runinfo3com_t{};
-    }
-    void TearDown() override {
-        runinfo_platform = runinfo_platform_default();
-        Dialogue::TearDown();
-    }
+struct RunInfo : on_fake_platform<Dialogue> {
     // smaininfo2 as the main program calls it, screen cleared after.
     void start() {
         smaininfo2("tarnolix            ", "12.3", "2024-09-14");
@@ -284,17 +275,11 @@ TEST_F(RunInfo, ATableWrittenWithoutAMainProgramSaysSo) {
 // ---------------------------------------------------------------------------
 // The record on a plot.
 
-struct PlotRunInfo : plot_session {
+struct PlotRunInfo : on_fake_platform<plot_session> {
     void SetUp() override {
-        plot_session::SetUp();
-        use_fake_platform();
-        runinfo3com = runinfo3com_t{};
+        on_fake_platform::SetUp();
         smaininfo2("tarnolix            ", "12.3", "2024-09-14");
         con.screen.clear();
-    }
-    void TearDown() override {
-        runinfo_platform = runinfo_platform_default();
-        plot_session::TearDown();
     }
 
     // The strings shown since the last look, the points they start at and
