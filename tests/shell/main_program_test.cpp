@@ -65,8 +65,7 @@ TEST_F(MainMenu, SessionsOfTheMenuTheQuitQuestionAndThePlotFile) {
         lines_t head, block, renders;
     } cases[] = {
         {"return confirms quit", {"999", ""}, 0, 1, {{CONFIRM, 1}}, {},
-         {CONFIRM, " or return for default value", " Default =          999", " New value =           999", DOTS, AT50,
-          " @ PROGRAM tarnolix"}, {}},
+         {" Default =          999", " New value =           999", DOTS, AT50, " @ PROGRAM tarnolix"}, {}},
         // 0 declines; 9999 at the confirm prompt declines too and does not end the run.
         {"declined", {"999", "0", "999", "9999", "999", "999"}, 0, 3, {{CONFIRM, 3}}, {}, {}, {}},
         {"unknown numbers and blank lines redisplay silently", {"4711", "", "  ", "-3", "9999"}, 0, 3,

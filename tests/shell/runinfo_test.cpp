@@ -52,7 +52,7 @@ struct RunInfo : on_fake_platform<Dialogue> {
 // ---------------------------------------------------------------------------
 // Start-up, the banner and the system questions.
 
-TEST_F(RunInfo, StartUpShowsTheBannerThatWaitsForReturn) {
+TEST_F(RunInfo, StartUpShowsTheBannerThatWaitsForReturnWithWhatThePlatformSays) {
     smaininfo2("tarnolix            ", "12.3", "2024-09-14");
     EXPECT_EQ(screen(), (lines_t{AT50, SWPINFO_HEAD, " @" + std::string(49, '='), " INITIALISING RUN INFO"}));
     EXPECT_TRUE(nothing_left());
@@ -80,9 +80,8 @@ TEST_F(RunInfo, StartUpShowsTheBannerThatWaitsForReturn) {
     swpinfo(code, 1);
     progheadzk2();
     EXPECT_EQ(lines(8, 2), (lines_t{" @       Starting on 2024-03-05 at 10:20:39", " @    System: Debian_12"}));
-}
 
-TEST_F(RunInfo, OtherProcessorsAreKeptWholeCutToThirtyAndAFailedHostIsMacintosh) {
+    // Other processors are kept whole, cut to thirty; a failed host is Macintosh.
     fake.cpu_answer = "  AMD EPYC 7763 64-Core Processor with a long tail";
     fake.host_status = 1;
     fake.login = "a-very-long-login";
