@@ -25,24 +25,45 @@ std::string random_text(std::mt19937& rng, std::string_view alphabet, unsigned m
     return s;
 }
 
-TEST_F(Prompts, IntegerWithDefaultShowsTheWholeCycle) {
-    type({"42"});
-    int v = 7, e = -1;
-    inintegdef(v, "number of bins                     ", v, e);
-    EXPECT_EQ(v, 42);
-    EXPECT_EQ(e, 0);
-    EXPECT_EQ(screen(), (Lines{DOTS, " Enter number of bins", " or return for default value",
-                               " Default =            7", " New value =            42", DOTS}));
-}
-
-TEST_F(Prompts, ReturnOrALeadingBlankTakesTheDefaultAndTwentyCharactersAreRead) {
-    type({"", " 5", "000000000000000000059", "\r"});
-    int v[3] = {}, e;
-    for (int k = 0; k < 3; ++k) inintegdef(v[k], "n", 3 + k, e);
-    EXPECT_EQ((std::vector<int>(v, v + 3)), (std::vector<int>{3, 4, 5}));
-    float r = 0;
-    inrealdef(r, "r", 2.5f, e);
-    EXPECT_EQ(r, 2.5f);
+// What a prompt takes from an answer, the default or the typed text cut to
+// its field; where given, the whole screen.
+TEST_F(Prompts, AnswersTakeTheDefaultOrTheTextCutToItsField) {
+    using ask_t = std::function<std::string()>;
+    auto integ = [](int def, std::string text) -> ask_t {
+        return [=] { int v = -1, e; inintegdef(v, text, def, e); return std::to_string(v); };
+    };
+    // The program passes a name as its own default.
+    const ask_t name20 = [] { fstr<20> v = "well.txt"; int e; inchardef(v, "data file name", v, e); return v.str(); };
+    std::string longname(85, 'x');
+    longname[79] = 'A', longname[80] = 'B';
+    const struct {
+        std::string key;
+        ask_t ask;
+        std::string value;
+        Lines screen;
+    } cases[] = {
+        {"42", integ(7, "number of bins                     "), "42",
+         {DOTS, " Enter number of bins", " or return for default value", " Default =            7",
+          " New value =            42", DOTS}},
+        {"", integ(3, "a"), "3", {}},
+        {" 5", integ(4, "a"), "4", {}},  // a leading blank is no answer
+        {"000000000000000000059", integ(5, "a"), "5", {}},  // twenty characters are read
+        {"\r", [] { float x = 0; int e; inrealdef(x, "r", 2.5f, e); return std::to_string(x); }, "2.500000", {}},
+        {"", name20, "well.txt            ",
+         {DOTS, " Enter data file name", " or return for default value", " Default = well.txt",
+          " ichar =  32 => use default value", " New value = well.txt            ", DOTS}},
+        {"my_well.txt", name20, "my_well.txt         ", {}},
+        {longname, [] { fstr<100> v; int e; inchardef(v, "file", "", e); return std::string(v.trimmed()); }, longname.substr(0, 80), {}},
+        {"  two words", [] { fstr<8> v; int e; inchar1(v, "title", e); return v.str(); }, "  two wo", {}},
+    };
+    for (const auto& c : cases) {
+        clear();
+        type({c.key});
+        EXPECT_EQ(c.ask(), c.value) << "'" << c.key << "'";
+        if (!c.screen.empty()) {
+            EXPECT_EQ(screen(), c.screen);
+        }
+    }
 }
 
 // A refused answer: the prompt's error frame right above the line that says
@@ -128,20 +149,6 @@ TEST_F(Prompts, RealRangeAndDefaultFormatsFollowTheSizeOfTheBounds) {
     }
 }
 
-TEST_F(Prompts, CharacterWithDefault) {
-    type({"", "my_well.txt"});
-    fstr<20> name = "well.txt";
-    int e;
-    inchardef(name, "data file name", name, e);
-    EXPECT_EQ(name, "well.txt");
-    EXPECT_EQ(screen(), (Lines{DOTS, " Enter data file name", " or return for default value",
-                               " Default = well.txt", " ichar =  32 => use default value",
-                               " New value = well.txt            ", DOTS}));
-    clear();
-    inchardef(name, "data file name", name, e);
-    EXPECT_EQ(name, "my_well.txt");
-}
-
 // A script written on another system: its CR is the return key on a line
 // of its own and no part of a name, typed or from a command file alike.
 TEST_F(Prompts, ALineEndingInCarriageReturnTypedOrReplayed) {
@@ -163,20 +170,6 @@ TEST_F(Prompts, ALineEndingInCarriageReturnTypedOrReplayed) {
         EXPECT_EQ(title.trimmed(), "");
         clear();
     }
-}
-
-TEST_F(Prompts, CharacterAnswersAreCutAtEightyCharacters) {
-    std::string longname(85, 'x');
-    longname[79] = 'A';
-    longname[80] = 'B';
-    type({longname, "  two words"});
-    fstr<100> name;
-    int e;
-    inchardef(name, "file", "", e);
-    EXPECT_EQ(name.trimmed(), longname.substr(0, 80));
-    fstr<8> shortname;
-    inchar1(shortname, "title", e);
-    EXPECT_EQ(shortname, "  two wo");
 }
 
 TEST_F(Prompts, YesNoAnswers) {
