@@ -239,7 +239,16 @@ TEST_F(RunInfo, AFourthLevelIsCountedButNotNamedAndLevelOneCannotBeLeft) {
 // ---------------------------------------------------------------------------
 // The record at the head of a table.
 
-TEST_F(RunInfo, TablesCarryWhatTheCodeAsksFor) {
+TEST_F(RunInfo, TablesCarryWhatTheCodeAsksForAndSayWhenThereIsNoMainProgram) {
+    type({""});
+    const lines_t t = table();
+    ASSERT_EQ(t.size(), 4u);
+    EXPECT_EQ(t[3], " *** program information ERROR : routine level < 1 ***");
+    const lines_t frame = error_head_lines("  writeruninf") + lines_t{" Current routine level =    0",
+                                                                      " Can store up to level =    3",
+                                                                      " => No program information"};
+    EXPECT_EQ(lines(0, int(frame.size())), frame);
+
     start();
     ssubinfo2("logplot2", " 3.2", "2019-07-29");
     scmndinfo(332);
@@ -258,17 +267,6 @@ TEST_F(RunInfo, TablesCarryWhatTheCodeAsksFor) {
         EXPECT_EQ(table(), want[code]) << code;
     }
     EXPECT_TRUE(screen().empty());
-}
-
-TEST_F(RunInfo, ATableWrittenWithoutAMainProgramSaysSo) {
-    type({""});
-    auto t = table();
-    ASSERT_EQ(t.size(), 4u);
-    EXPECT_EQ(t[3], " *** program information ERROR : routine level < 1 ***");
-    const lines_t want = error_head_lines("  writeruninf") + lines_t{" Current routine level =    0",
-                                                                     " Can store up to level =    3",
-                                                                     " => No program information"};
-    EXPECT_EQ(lines(0, int(want.size())), want);
 }
 
 // ---------------------------------------------------------------------------
@@ -302,15 +300,29 @@ struct PlotRunInfo : on_fake_platform<plot_session> {
     }
 };
 
-TEST_F(PlotRunInfo, TheBlockIsDrawnAtHalfSizeOneAndAHalfHalfSizesApart) {
+// The run info block at half size, one and a half half sizes apart, its
+// lines chosen by the code; a text and the data block at their places.
+TEST_F(PlotRunInfo, TheBlocksAreDrawnAtTheirPlacesAndSizesWithWhatTheCodeAsksFor) {
     open_plot("block.ps");
-    ssubinfo2("logplot2", " 3.2", "2019-07-29");
-    scmndinfo(332);
-    skip_lines();
+    ssubinfo2("statplot", " 8.1", "2019-07-29");
+    scmndinfo(20);
+    const std::string run = "Run on 2024-03-05 at 10:20:39", who = "by akordem on pad-07.harvenhold.example",
+                      sys = "System : Debian_12 Core i7-8700 CPU @ 3.20GHz",
+                      chain = "tarnolix   _12.3 -> statplot   _ 8.1";
+    const lines_t want[] = {{run, who, sys, chain + " Command = 20"},
+                            {run, who, sys, chain},
+                            {run, sys, chain + " Command = 20"},
+                            {run, sys, chain}};
     con.screen.clear();
-    cmplotruninfo2(10.0f, 20.0f);
-    auto t = texts();  // the lines themselves by code below
-    EXPECT_EQ(t.texts.back(), "tarnolix   _12.3 -> logplot2   _ 3.2 Command = 332");
+    shown t;
+    for (int code = 3; code >= 0; --code) {
+        int c = code;
+        swpinfo(c, 1);
+        skip_lines();
+        cmplotruninfo2(10.0f, 20.0f);
+        t = texts();
+        EXPECT_EQ(t.texts, want[code]) << code;
+    }
     EXPECT_EQ(t.points, (lines_t{"283.50 567.00", "283.50 556.37", "283.50 545.74", "283.50 535.11"}));
     // 0.25 cm is 7 points; the size in force before comes back after.
     EXPECT_EQ(t.size, "7");
@@ -328,30 +340,11 @@ TEST_F(PlotRunInfo, TheBlockIsDrawnAtHalfSizeOneAndAHalfHalfSizesApart) {
                                 "Number of data: 1234"}));
     EXPECT_EQ(t.points, (lines_t{"85.05 567.00", "85.05 556.37", "85.05 545.74", "85.05 535.11"}));
     EXPECT_EQ(plt2blk.textsizcm, 0.5f);
-    close_plot();
-    EXPECT_GS_RENDERS("block.ps");
-}
 
-TEST_F(PlotRunInfo, TheCodeChoosesUserHostAndCommandAndBelowTheThirdLevelTheChainEndsWithX) {
-    open_plot("codes.ps");
-    ssubinfo2("statplot", " 8.1", "2019-07-29");
-    scmndinfo(20);
-    const std::string run = "Run on 2024-03-05 at 10:20:39", who = "by akordem on pad-07.harvenhold.example",
-                      sys = "System : Debian_12 Core i7-8700 CPU @ 3.20GHz",
-                      chain = "tarnolix   _12.3 -> statplot   _ 8.1";
-    const lines_t want[] = {{run, who, sys, chain + " Command = 20"},
-                            {run, who, sys, chain},
-                            {run, sys, chain + " Command = 20"},
-                            {run, sys, chain}};
-    for (int code = 0; code <= 3; ++code) {
-        int c = code;
-        swpinfo(c, 1);
-        skip_lines();
-        cmplotruninfo2(15.0f, 20.0f);
-        EXPECT_EQ(texts().texts, want[code]) << code;
-    }
     // The chain of a fourth level no longer fits in 60 characters and goes
-    // on below.
+    // on below, ending with x.
+    int c = 3;
+    swpinfo(c, 1);
     ssubinfo2("hstwrite", " 3.0", "2012-04-27");
     ssubinfo2("deeper", " 1.0", "2020-01-01");
     con.screen.clear();
@@ -359,7 +352,7 @@ TEST_F(PlotRunInfo, TheCodeChoosesUserHostAndCommandAndBelowTheThirdLevelTheChai
     EXPECT_EQ(texts().texts, (lines_t{run, sys, chain, "-> hstwrite   _ 3.0 -> x"}));
     EXPECT_EQ(con.screen, warning_head_lines("  cmplotrunin") + LEVEL3_OF_2 + lines_t{SLASH50});
     close_plot();
-    EXPECT_GS_RENDERS("codes.ps");
+    EXPECT_GS_RENDERS("block.ps");
 }
 
 }  // namespace
