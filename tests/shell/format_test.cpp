@@ -29,7 +29,8 @@ std::string fortran_item(const fitem& it) {
     if (it.kind == fitem::CHAR) return gfortran_ref::quote(it.c);
     char buf[64];
     if (it.isfloat)
-        std::snprintf(buf, sizeof buf, "transfer(int(z'%08X',4),1.0)", unsigned(std::bit_cast<std::uint32_t>(float(it.r))));
+        std::snprintf(buf, sizeof buf, "transfer(int(z'%08X',4),1.0)",
+                      unsigned(std::bit_cast<std::uint32_t>(float(it.r))));
     else
         std::snprintf(buf, sizeof buf, "transfer(int(z'%016llX',8),1d0)",
                       (unsigned long long)std::bit_cast<std::uint64_t>(it.r));

@@ -80,8 +80,9 @@ TEST_F(MainMenu, SessionsOfTheMenuTheQuitQuestionAndThePlotFile) {
          {{" MULTIPLE PLOTS LAYOUT", 1}, {" date+user+host+os+hardw+main+subr+cmnd...0", 1}},
          {{{AT50, " @ subroutine writesio              v2.0 2024-02-05", HEAD_RULE},
            {" INPUT/OUTPUT SET UP:", " standard  input unit        =  5", " standard output unit        =  6",
-            " error     input unit        =  5", " error    output unit        =  6", " minimum output enabled      :  T",
-            " more    output enabled      :  T", " maximum output enabled      :  F", " command file open status    :  F",
+            " error     input unit        =  5", " error    output unit        =  6",
+            " minimum output enabled      :  T", " more    output enabled      :  T",
+            " maximum output enabled      :  F", " command file open status    :  F",
             " plot    file open status    :  F", " pause after warning or error:  T", AT50}}}, {}},
         // 10 opens (return for default settings, the name), 20 closes (return);
         // the last name becomes the next default.
@@ -94,8 +95,9 @@ TEST_F(MainMenu, SessionsOfTheMenuTheQuitQuestionAndThePlotFile) {
         // While level 2 is off a pass shows the head, then straight the prompt.
         {"output level 2 off hides menus and dotted lines until back on",
          {"5100", "2", "10", "0", "99", "99", "5100", "2", "10", "1", "99", "99", "9999"}, 0, 3, {{FAST_QUIT, 2}},
-         {{{}, {" STANDARD OUTPUT CONTROLS", DASH, " |level|enabled|...........command", " |  1  |   T   |................ 1",
-                " |  2  |   T   |................ 2", " |  3  |   F   |................ 3"}},
+         {{{}, {" STANDARD OUTPUT CONTROLS", DASH, " |level|enabled|...........command",
+                " |  1  |   T   |................ 1", " |  2  |   T   |................ 2",
+                " |  3  |   F   |................ 3"}},
           {{AT50, HEAD, HEAD_RULE}, {" Enter your choice", " New value =          5100"}}}, {}},
     };
     for (const auto& c : cases) {

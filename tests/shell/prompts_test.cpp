@@ -53,7 +53,8 @@ TEST_F(Prompts, AnswersTakeTheDefaultOrTheTextCutToItsField) {
          {DOTS, " Enter data file name", " or return for default value", " Default = well.txt",
           " ichar =  32 => use default value", " New value = well.txt            ", DOTS}},
         {"my_well.txt", name20, "my_well.txt         ", {}},
-        {longname, [] { fstr<100> v; int e; inchardef(v, "file", "", e); return std::string(v.trimmed()); }, longname.substr(0, 80), {}},
+        {longname, [] { fstr<100> v; int e; inchardef(v, "file", "", e); return std::string(v.trimmed()); },
+         longname.substr(0, 80), {}},
         {"  two words", [] { fstr<8> v; int e; inchar1(v, "title", e); return v.str(); }, "  two wo", {}},
     };
     for (const auto& c : cases) {
@@ -77,6 +78,7 @@ TEST_F(Prompts, RefusedAnswersAreFramedByTheirPromptAndAskedAgain) {
         Lines why;
         double value;
     };
+    const auto real360 = [](int& e) { float x = 0; inrealvindef(x, "a", 0.f, 0.f, 360.f, e); return double(x); };
     std::vector<Case> cases = {
         {"fraction", {"5.5", "", "6"}, [](int& e) { int v = 0; inintegdef(v, "a", 1, e); return double(v); },
          "  inintegdef ", {" could not read a", " ==> RETRYING"}, 6},
@@ -87,16 +89,17 @@ TEST_F(Prompts, RefusedAnswersAreFramedByTheirPromptAndAskedAgain) {
          {" *     *** Format problem ***      *", " -----------------------------------", " ivmin =             0",
           " ivmax =    1000000000", " limited to |iv| < 1 000 000 000", " ===> HIT RETURN TO CONTINUE"}, 7},
         // A name of 13 characters fills its field exactly.
-        {"default outside", {"", "", "2"}, [](int& e) { int v = 0; inintegvindef(v, "a", 9, 1, 3, e); return double(v); },
-         "inintegvindef", {" a =            9", " outside [1,3]"}, 2},
+        {"default outside", {"", "", "2"},
+         [](int& e) { int v = 0; inintegvindef(v, "a", 9, 1, 3, e); return double(v); }, "inintegvindef",
+         {" a =            9", " outside [1,3]"}, 2},
         {"equal bounds", {"4", "", "5"}, [](int& e) { int v = 0; inintegvindef(v, "a", 5, 5, 5, e); return double(v); },
          "inintegvindef", {" a =            4", " outside [5,5]"}, 5},
-        {"real range", {"400", "", "12.25"}, [](int& e) { float x = 0; inrealvindef(x, "a", 0.f, 0.f, 360.f, e); return x; },
-         " inrealvindef", {" a =  400.000    ", " outside [   0.00, 360.00]"}, 12.25},
-        {"no real", {"nonsense", "", "12.25"}, [](int& e) { float x = 0; inrealvindef(x, "a", 0.f, 0.f, 360.f, e); return x; },
-         " inrealvindef", {" could not read a", " ==> RETRYING"}, 12.25},
-        {"yes or no", {"x", "", "n"}, [](int& e) { bool b = true; inlogicdef2(b, "a", true, 5, 6, e); return double(b); },
-         "  inlogicdef2", {" incorrect answer: x", " ==> WILL ASK QUESTION AGAIN"}, 0},
+        {"real range", {"400", "", "12.25"}, real360, " inrealvindef",
+         {" a =  400.000    ", " outside [   0.00, 360.00]"}, 12.25},
+        {"no real", {"nonsense", "", "12.25"}, real360, " inrealvindef", {" could not read a", " ==> RETRYING"}, 12.25},
+        {"yes or no", {"x", "", "n"},
+         [](int& e) { bool b = true; inlogicdef2(b, "a", true, 5, 6, e); return double(b); }, "  inlogicdef2",
+         {" incorrect answer: x", " ==> WILL ASK QUESTION AGAIN"}, 0},
     };
     for (const auto& [answer, shown] : {std::pair{"NaN", " a =          NaN"}, {"inf", " a =     Infinity"},
                                         {"-Infinity", " a =    -Infinity"}, {"1e39", " a =     Infinity"}}) {
