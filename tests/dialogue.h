@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <initializer_list>
@@ -28,6 +29,10 @@ struct Dialogue : ::testing::Test {
         std::filesystem::remove_all(dir);
         std::filesystem::create_directories(dir);
         std::filesystem::current_path(dir);
+        reset_io();
+    }
+    // The units and the standard input and output as a run starts.
+    void reset_io() {
         iocom = iocom_t{5, 6, 5, 6, 0, 0, false, false, true, {{true, true, false}}};
         units_reset();
     }
@@ -39,6 +44,9 @@ struct Dialogue : ::testing::Test {
     }
 
     void type(std::initializer_list<std::string> lines) {
+        for (const auto& l : lines) con.type(l);
+    }
+    void type(const std::vector<std::string>& lines) {
         for (const auto& l : lines) con.type(l);
     }
     const std::vector<std::string>& screen() const { return con.screen; }
@@ -55,9 +63,18 @@ struct Dialogue : ::testing::Test {
         for (const auto& l : con.screen) n += l == s;
         return n;
     }
-    // The screen lines from index from on, n of them.
+    // The screen lines from index from on, n of them, as far as there are.
     std::vector<std::string> lines(int from, int n) const {
-        return std::vector<std::string>(con.screen.begin() + from, con.screen.begin() + from + n);
+        const int size = int(con.screen.size());
+        if (from < 0 || from > size) return {};
+        return std::vector<std::string>(con.screen.begin() + from, con.screen.begin() + std::min(from + n, size));
+    }
+    // The index of the first line s at or after from that comes right under
+    // the frame head lines head, or -1.
+    int under(const std::vector<std::string>& head, const std::string& s, int from = 0) const {
+        for (int k = find(s, from); k >= 0; k = find(s, k + 1))
+            if (lines(k - int(head.size()), int(head.size())) == head) return k;
+        return -1;
     }
 };
 

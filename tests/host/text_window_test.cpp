@@ -73,21 +73,25 @@ class TextWindowTest : public QObject {
     Q_OBJECT
 private slots:
     void readHandsOverTypedText_data() {
-        QTest::addColumn<QString>("keys");  // '<' Backspace, '^' Left
+        QTest::addColumn<QString>("keys");  // '<' Backspace, '^' Left, '#' paste at the document start
         QTest::addColumn<QString>("handed");
         QTest::addColumn<QString>("shown");
         QTest::newRow("typed") << "12" << "12" << "prompt\n12\n";
         QTest::newRow("corrected") << "123<" << "12" << "prompt\n12\n";
         QTest::newRow("cursor moved back") << "12^" << "1" << "prompt\n1\n2";
+        QTest::newRow("pasted") << "#" << "xyz" << "prompt\nxyz\n";
     }
+    // Keys and paste do nothing outside a read.
     void readHandsOverTypedText() {
         QFETCH(QString, keys);
         ZOR_TextEdit edit(-3, "t", "");
         edit.appendText("prompt\n");
+        QApplication::clipboard()->setText("xyz");
         QSignalSpy ends(&edit, &ZOR_TextEdit::endRead);
         QTest::keyClicks(&edit, "ab");
         QTest::keyClick(&edit, Qt::Key_Backspace);
         QTest::keyClick(&edit, Qt::Key_Return);
+        edit.paste();
         QCOMPARE(edit.toPlainText(), QString("prompt\n"));
         QCOMPARE(ends.count(), 0);
 
@@ -95,6 +99,7 @@ private slots:
         for (QChar c : keys) {
             if (c == '<') QTest::keyClick(&edit, Qt::Key_Backspace);
             else if (c == '^') QTest::keyClick(&edit, Qt::Key_Left);
+            else if (c == '#') edit.moveCursor(QTextCursor::Start), edit.paste();
             else QTest::keyClick(&edit, c.toLatin1());
         }
         QTest::keyClick(&edit, Qt::Key_Return);
@@ -103,20 +108,6 @@ private slots:
         QTEST(edit.toPlainText(), "shown");
         QTest::keyClicks(&edit, "x");
         QTEST(edit.toPlainText(), "shown");
-    }
-
-    void pasteOnlyDuringRead() {
-        ZOR_TextEdit edit(-3, "t", "");
-        edit.appendText("prompt\n");
-        QApplication::clipboard()->setText("xyz");
-        edit.paste();
-        QCOMPARE(edit.toPlainText(), QString("prompt\n"));
-        edit.startRead();
-        edit.moveCursor(QTextCursor::Start);
-        edit.paste();
-        QCOMPARE(edit.toPlainText(), QString("prompt\nxyz"));
-        QTest::keyClick(&edit, Qt::Key_Return);
-        QCOMPARE(edit.getReadText(), QString("xyz"));
     }
 
     void controlCharactersInOutput_data() {

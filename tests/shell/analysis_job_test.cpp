@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -15,11 +14,6 @@
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string contents(const fs::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), {});
-}
 
 // The files a run leaves in dir, by name, less those it was given.
 std::vector<std::string> made(const fs::path& dir, const std::vector<std::string>& given) {
@@ -62,7 +56,7 @@ TEST_F(MainMenu, TheAnalysisJobFromItsFileLeavesTheFilesOfTheSameAnswersTyped) {
                           "well210.txt_extr_ade.txt", "well210.txt.all.out.txt"})
         EXPECT_NE(std::find(files.begin(), files.end(), f), files.end()) << f;
     for (const auto& f : files)
-        EXPECT_TRUE(contents(top / "replayed" / f) == contents(top / "typed" / f)) << f;
+        EXPECT_TRUE(file_text(top / "replayed" / f) == file_text(top / "typed" / f)) << f;
 }
 
 }  // namespace

@@ -54,8 +54,22 @@ inline void fake_shell(std::string_view command, bool, int& exitstat, int& cmdst
         std::ofstream(file) << (os ? fake.os_answer : fake.cpu_answer) << "\n";
 }
 
-
 inline void use_fake_platform() {
     fake = fake_state{};
     runinfo_platform = {fake_clock, fake_cpu, fake_date, fake_host, fake_login, fake_shell};
 }
+
+// A fixture on the scripted platform with no run information yet; the real
+// platform comes back after.
+template <class Base>
+struct on_fake_platform : Base {
+    void SetUp() override {
+        Base::SetUp();
+        use_fake_platform();
+        runinfo3com = runinfo3com_t{};
+    }
+    void TearDown() override {
+        runinfo_platform = runinfo_platform_default();
+        Base::TearDown();
+    }
+};

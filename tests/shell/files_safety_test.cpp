@@ -4,18 +4,10 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include "main_run.h"
 
 namespace {
-
-std::string slurp(const std::string& name) {
-    std::ifstream f(name, std::ios::binary);
-    std::stringstream s;
-    s << f.rdbuf();
-    return s.str();
-}
 
 struct FilesSafety : MainMenu {};
 
@@ -40,10 +32,10 @@ TEST_F(FilesSafety, APlotNeverOpensOverTheWellLoadedOrTheCommandFileRead) {
                                    "well210.txt",
                                    std::filesystem::copy_options::overwrite_existing);
         if (!c.commands.empty()) std::ofstream("cmd.keys") << c.commands;
-        const std::string before = slurp(c.guarded);
+        const std::string before = file_text(c.guarded);
         for (const auto& k : c.keys) con.type(k);
         EXPECT_EQ(run(), 0);
-        EXPECT_EQ(slurp(c.guarded), before);
+        EXPECT_EQ(file_text(c.guarded), before);
         EXPECT_EQ(count(" COULD NOT OPEN PostScript plot FILE"), 1);
         EXPECT_EQ(count(" ENTERING THE TWILIGHT ZONE OF COMPUTING !"), 1);
         // Nothing meant for the missing file comes out in the dialogue.
@@ -71,7 +63,7 @@ TEST_F(FilesSafety, ThePlotFileIsOnDiskAtEveryPrompt) {
     // At the prompt after the open (command 1), the head is there.
     ASSERT_GE(w.seen.size(), 5u);
     EXPECT_GT(w.seen[4], 0u);
-    EXPECT_NE(slurp("well.ps").find("%%Page:    1    1"), std::string::npos);
+    EXPECT_NE(file_text("well.ps").find("%%Page:    1    1"), std::string::npos);
 }
 
 }  // namespace

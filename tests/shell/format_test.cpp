@@ -24,24 +24,17 @@ struct fcase {
 // The item as a Fortran expression of the same type and value; reals go by
 // their bits so that nothing is lost in decimal.
 std::string fortran_item(const fitem& it) {
+    if (it.kind == fitem::INT) return "(" + std::to_string(it.i) + ")";
+    if (it.kind == fitem::LOGICAL) return it.l ? ".true." : ".false.";
+    if (it.kind == fitem::CHAR) return gfortran_ref::quote(it.c);
     char buf[64];
-    switch (it.kind) {
-    case fitem::INT:
-        return "(" + std::to_string(it.i) + ")";
-    case fitem::REAL:
-        if (it.isfloat)
-            std::snprintf(buf, sizeof buf, "transfer(int(z'%08X',4),1.0)",
-                          unsigned(std::bit_cast<std::uint32_t>(float(it.r))));
-        else
-            std::snprintf(buf, sizeof buf, "transfer(int(z'%016llX',8),1d0)",
-                          (unsigned long long)std::bit_cast<std::uint64_t>(it.r));
-        return buf;
-    case fitem::LOGICAL:
-        return it.l ? ".true." : ".false.";
-    case fitem::CHAR:
-        return gfortran_ref::quote(it.c);
-    }
-    return "";
+    if (it.isfloat)
+        std::snprintf(buf, sizeof buf, "transfer(int(z'%08X',4),1.0)",
+                      unsigned(std::bit_cast<std::uint32_t>(float(it.r))));
+    else
+        std::snprintf(buf, sizeof buf, "transfer(int(z'%016llX',8),1d0)",
+                      (unsigned long long)std::bit_cast<std::uint64_t>(it.r));
+    return buf;
 }
 
 std::vector<fcase> reference_cases() {
@@ -100,53 +93,40 @@ std::vector<fcase> reference_cases() {
     const char* edits[] = {"f8.3", "f6.1", "f4.0", "f3.0", "f2.0", "f5.2", "f0.3", "f0.0", "f12.2",
                            "e11.3", "e9.2", "e8.2", "e15.6", "d11.3", "es11.3", "es8.1", "en12.3",
                            "g11.4", "g9.2", "g12.6", "g15.7", "g10.3", "g0", "g0.4"};
-    for (const char* e : edits) {
-        std::string fmt = std::string("(8('|',") + e + "))";
+    // Each format over the values as floats and as doubles.
+    auto both = [&c](const std::string& fmt, std::span<const double> vs) {
         std::vector<fitem> fl, dl;
-        for (double v : values) {
-            fl.emplace_back(float(v));
-            dl.emplace_back(v);
-        }
+        for (double v : vs) fl.emplace_back(float(v)), dl.emplace_back(v);
         c.push_back({fmt, fl});
         c.push_back({fmt, dl});
-    }
+    };
+    for (const char* e : edits) both(std::string("(8('|',") + e + "))", values);
     // G decides between F and E by comparing with 10^k * (1 - 0.5*10^-d) in
     // the item's own precision: values on and next to those edges.
     for (int d : {2, 4, 6}) {
         std::vector<fitem> fl, dl;
         for (int k = -1; k <= d + 1; ++k) {
-            double edge = std::pow(10.0, k) * (1 - 0.5 * std::pow(10.0, -d));
+            const double edge = std::pow(10.0, k) * (1 - 0.5 * std::pow(10.0, -d));
             for (int dir : {-1, 0, 1}) {
-                float f = float(edge);
-                double e = edge;
-                if (dir) {
-                    f = std::nextafter(f, dir * 1e30f);
-                    e = std::nextafter(e, dir * 1e300);
-                }
-                fl.emplace_back(f);
-                dl.emplace_back(e);
+                fl.emplace_back(dir ? std::nextafter(float(edge), dir * 1e30f) : float(edge));
+                dl.emplace_back(dir ? std::nextafter(edge, dir * 1e300) : edge);
             }
         }
-        std::string fmt = "(6(1x,g14." + std::to_string(d) + "))";
+        const std::string fmt = "(6(1x,g14." + std::to_string(d) + "))";
         c.push_back({fmt, fl});
         c.push_back({fmt, dl});
     }
     // A spread of magnitudes from a fixed generator, for the decimal
     // conversion itself.
     std::uint64_t seed = 12345;
-    std::vector<fitem> spread, spread_d;
+    std::vector<double> spread;
     for (int k = 0; k < 120; ++k) {
         seed = seed * 6364136223846793005ULL + 1442695040888963407ULL;
-        double mant = double(seed >> 11) / double(1ULL << 53);
-        int ex = int((seed >> 3) % 41) - 20;
-        double v = (k % 3 == 0 ? -1 : 1) * mant * std::pow(10.0, ex);
-        spread.emplace_back(float(v));
-        spread_d.emplace_back(v);
+        const double mant = double(seed >> 11) / double(1ULL << 53);
+        spread.push_back((k % 3 == 0 ? -1 : 1) * mant * std::pow(10.0, int((seed >> 3) % 41) - 20));
     }
-    for (const char* e : {"(4(1x,g14.6))", "(4(1x,e13.5))", "(4(1x,f14.4))", "(4(1x,es12.4))", "(4(1x,g0))"}) {
-        c.push_back({e, spread});
-        c.push_back({e, spread_d});
-    }
+    for (const char* e : {"(4(1x,g14.6))", "(4(1x,e13.5))", "(4(1x,f14.4))", "(4(1x,es12.4))", "(4(1x,g0))"})
+        both(e, spread);
     return c;
 }
 

@@ -52,113 +52,65 @@ TEST_F(MainMenu, ShowsTheMenuAndFastQuitEndsWithoutAQuestion) {
     EXPECT_TRUE(std::filesystem::is_empty("."));
 }
 
-TEST_F(MainMenu, QuitAsksForConfirmationAndReturnConfirms) {
-    type({"999", ""});
-    EXPECT_EQ(run(), 0);
-    const int e = find(" Enter 999 to confirm quit");
-    ASSERT_GT(e, 0);
-    EXPECT_EQ(lines(e, 5), (lines_t{" Enter 999 to confirm quit", " or return for default value",
-                                    " Default =          999", " New value =           999", DOTS}));
-    EXPECT_EQ(passes(), 1);
-    EXPECT_EQ(end_report(), e + 6);
-}
-
-TEST_F(MainMenu, DeclinedQuitGoesOnAndIsNotDispatched) {
-    // 0 declines; 9999 at the confirm prompt declines too and does not end the run.
-    type({"999", "0", "999", "9999", "999", "999"});
-    EXPECT_EQ(run(), 0);
-    EXPECT_EQ(passes(), 3);
-    EXPECT_EQ(count(" Enter 999 to confirm quit"), 3);
-}
-
-TEST_F(MainMenu, UnknownNumbersRedisplayTheMenuSilentlyAndBlankLinesDoNotAnswer) {
-    type({"4711", "", "  ", "-3", "9999"});
-    EXPECT_EQ(run(), 0);
-    EXPECT_EQ(passes(), 3);
-    EXPECT_EQ(count(FAST_QUIT), 3);
-    EXPECT_EQ(count(" Enter your choice"), 3);
-    EXPECT_EQ(find(" ===> HIT RETURN TO CONTINUE"), -1);
-}
-
-TEST_F(MainMenu, ANonNumericAnswerIsAnErrorFrameThenTheQuestionAgain) {
-    type({"abc", "", "9999"});
-    EXPECT_EQ(run(), 0);
-    const int c = find(" could not read your choice");
-    ASSERT_GT(c, 9);
-    EXPECT_EQ(lines(c - 9, 9), error_head_lines("  ininteg1   "));
-    EXPECT_EQ(lines(c, 7), (lines_t{" could not read your choice", " ==> RETRYING",
-                                    " ===> HIT RETURN TO CONTINUE", " " + std::string(50, '*'), DOTS,
-                                    " Enter your choice", " New value =          9999"}));
-    // The error does not redisplay the menu: one pass only.
-    EXPECT_EQ(passes(), 1);
-}
-
-TEST_F(MainMenu, StatusLayoutAndRunInfoCommandsShowTheirScreens) {
-    type({"1", "13", "99", "2", "0", "9999"});
-    EXPECT_EQ(run(), 0);
-    const int s = find(" INPUT/OUTPUT SET UP:");
-    ASSERT_GT(s, 0);
-    EXPECT_EQ(lines(s + 1, 2), (lines_t{" standard  input unit        =  5",
-                                        " standard output unit        =  6"}));
-    EXPECT_EQ(lines(s + 8, 4), (lines_t{" command file open status    :  F",
-                                        " plot    file open status    :  F",
-                                        " pause after warning or error:  T", AT50}));
-    EXPECT_EQ(count(" MULTIPLE PLOTS LAYOUT"), 1);
-    EXPECT_GT(find(" date+user+host+os+hardw+main+subr+cmnd...0"), 0);
-    EXPECT_EQ(passes(), 4);
-}
-
-TEST_F(MainMenu, OutputLevelTwoOffHidesMenusAndDottedLinesUntilBackOn) {
-    type({"5100", "2", "10", "0", "99", "99", "5100", "2", "10", "1", "99", "99", "9999"});
-    EXPECT_EQ(run(), 0);
-    EXPECT_TRUE(iocom.LWITO(2));
-    const int t = find(" STANDARD OUTPUT CONTROLS");
-    ASSERT_GT(t, 0);
-    EXPECT_EQ(lines(t + 2, 4), (lines_t{" |level|enabled|...........command",
-                                        " |  1  |   T   |................ 1",
-                                        " |  2  |   T   |................ 2",
-                                        " |  3  |   F   |................ 3"}));
-    const int off = find(" |  2  |   F   |................ 2");
-    ASSERT_GT(off, t);
-    // The pass while level 2 is off: head, then straight to the prompt.
-    const int h = find(HEAD, off);
-    ASSERT_GT(h, off);
-    EXPECT_EQ(lines(h - 1, 5), (lines_t{AT50, HEAD, HEAD_RULE, " Enter your choice",
-                                        " New value =          5100"}));
-    // The menu shows on the first pass and again once level 2 is back.
-    EXPECT_EQ(count(FAST_QUIT), 2);
-}
-
-TEST_F(MainMenu, KeyboardThatEndsEndsTheRunWithoutEndReport) {
-    type({"999"});
-    EXPECT_EQ(run(), 2);
-    EXPECT_EQ(end_report(), -1);
-}
-
-// The plot file commands: 10 opens, 20 closes, QUIT closes before it asks.
-TEST_F(MainMenu, PlotFilesOpenCloseAndTheLastNameBecomesTheNextDefault) {
-    // 10; return for default settings; the name; 20; return to close.
-    type({"10", "", "", "20", "", "10", "", "other.ps", "20", "", "10", "", "", "20", "", "9999"});
-    EXPECT_EQ(run(), 0);
-    EXPECT_EQ(count(" Default = well.ps"), 2);
-    EXPECT_EQ(count(" Default = other.ps"), 1);
-    EXPECT_EQ(count(CLOSED), 3);
-    EXPECT_FALSE(iocom.lplotopen);
-    EXPECT_GS_RENDERS("well.ps");
-    EXPECT_GS_RENDERS("other.ps");
-}
-
-TEST_F(MainMenu, QuitAndFastQuitCloseTheFileBeforeTheyEnd) {
-    // QUIT closes before it asks; declined, the file stays closed; opened
-    // again, FAST QUIT closes it.
-    type({"10", "", "", "999", "", "0", "10", "", "", "9999", ""});
-    EXPECT_EQ(run(), 0);
-    const int closed = find(CLOSED);
-    ASSERT_GT(closed, 0);
-    EXPECT_GT(find(" Enter 999 to confirm quit"), closed);
-    EXPECT_EQ(count(CLOSED), 2);
-    EXPECT_GT(find(CLOSED, find(" New value =          9999")), 0);
-    EXPECT_GS_RENDERS("well.ps");
+// Each session by its exit status, the passes of the menu, how often lines
+// show, blocks of lines and the plot files that must render.
+TEST_F(MainMenu, SessionsOfTheMenuTheQuitQuestionAndThePlotFile) {
+    const std::string CONFIRM = " Enter 999 to confirm quit";
+    const struct {
+        std::string name;
+        lines_t keys;
+        int status, passes;
+        std::vector<std::pair<std::string, int>> counts;
+        std::vector<std::pair<lines_t, lines_t>> blocks;  // a frame head (or none), the lines right under it
+        lines_t renders;
+    } cases[] = {
+        {"return confirms quit", {"999", ""}, 0, 1, {{CONFIRM, 1}},
+         {{{}, {" Default =          999", " New value =           999", DOTS, AT50, " @ PROGRAM tarnolix"}}}, {}},
+        // 0 declines; 9999 at the confirm prompt declines too and does not end the run.
+        {"declined", {"999", "0", "999", "9999", "999", "999"}, 0, 3, {{CONFIRM, 3}}, {}, {}},
+        {"unknown numbers and blank lines redisplay silently", {"4711", "", "  ", "-3", "9999"}, 0, 3,
+         {{FAST_QUIT, 3}, {" Enter your choice", 3}, {" ===> HIT RETURN TO CONTINUE", 0}}, {}, {}},
+        // The error does not redisplay the menu.
+        {"not a number", {"abc", "", "9999"}, 0, 1, {},
+         {{error_head_lines("  ininteg1   "),
+           {" could not read your choice", " ==> RETRYING", " ===> HIT RETURN TO CONTINUE", " " + std::string(50, '*'),
+            DOTS, " Enter your choice", " New value =          9999"}}}, {}},
+        {"keyboard ends", {"999"}, 2, 1, {{" @ PROGRAM tarnolix", 0}}, {}, {}},
+        {"status, layout and run info", {"1", "13", "99", "2", "0", "9999"}, 0, 4,
+         {{" MULTIPLE PLOTS LAYOUT", 1}, {" date+user+host+os+hardw+main+subr+cmnd...0", 1}},
+         {{{AT50, " @ subroutine writesio              v2.0 2024-02-05", HEAD_RULE},
+           {" INPUT/OUTPUT SET UP:", " standard  input unit        =  5", " standard output unit        =  6",
+            " error     input unit        =  5", " error    output unit        =  6",
+            " minimum output enabled      :  T", " more    output enabled      :  T",
+            " maximum output enabled      :  F", " command file open status    :  F",
+            " plot    file open status    :  F", " pause after warning or error:  T", AT50}}}, {}},
+        // 10 opens (return for default settings, the name), 20 closes (return);
+        // the last name becomes the next default.
+        {"plot files", {"10", "", "", "20", "", "10", "", "other.ps", "20", "", "10", "", "", "20", "", "9999"}, 0, 7,
+         {{" Default = well.ps", 2}, {" Default = other.ps", 1}, {CLOSED, 3}}, {}, {"well.ps", "other.ps"}},
+        // QUIT closes before it asks; declined, the file stays closed; opened
+        // again, FAST QUIT closes it.
+        {"quit closes the plot file", {"10", "", "", "999", "", "0", "10", "", "", "9999", ""}, 0, 4, {{CLOSED, 2}},
+         {{{}, {CLOSED, AT50, DOTS, CONFIRM}}}, {"well.ps"}},
+        // While level 2 is off a pass shows the head, then straight the prompt.
+        {"output level 2 off hides menus and dotted lines until back on",
+         {"5100", "2", "10", "0", "99", "99", "5100", "2", "10", "1", "99", "99", "9999"}, 0, 3, {{FAST_QUIT, 2}},
+         {{{}, {" STANDARD OUTPUT CONTROLS", DASH, " |level|enabled|...........command",
+                " |  1  |   T   |................ 1", " |  2  |   T   |................ 2",
+                " |  3  |   F   |................ 3"}},
+          {{AT50, HEAD, HEAD_RULE}, {" Enter your choice", " New value =          5100"}}}, {}},
+    };
+    for (const auto& c : cases) {
+        restart(c.keys);
+        EXPECT_EQ(run(), c.status) << c.name;
+        EXPECT_EQ(passes(), c.passes) << c.name;
+        for (const auto& [line, n] : c.counts) EXPECT_EQ(count(line), n) << c.name << ": " << line;
+        for (const auto& [head, block] : c.blocks)
+            EXPECT_EQ(lines(under(head, block[0]), int(block.size())), block) << c.name;
+        EXPECT_FALSE(iocom.lplotopen) << c.name;
+        EXPECT_TRUE(iocom.LWITO(2)) << c.name;
+        for (const auto& f : c.renders) EXPECT_GS_RENDERS(f);
+    }
 }
 
 // Projections reset after the angle constants and before the attributes,

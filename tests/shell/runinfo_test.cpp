@@ -31,16 +31,7 @@ const std::string SLASH50 = " " + std::string(50, '/');
 const std::string SWPINFO_HEAD = " @ subroutine swpinfo" + std::string(15, ' ') + "v1.1 2021-02-27";
 const lines_t LEVEL3_OF_2 = {" Current subroutine level     =    3", " Information only up to level =    2"};
 
-struct RunInfo : Dialogue {
-    void SetUp() override {
-        Dialogue::SetUp();
-        use_fake_platform();
-        runinfo3com = runinfo3com_t{};
-    }
-    void TearDown() override {
-        runinfo_platform = runinfo_platform_default();
-        Dialogue::TearDown();
-    }
+struct RunInfo : on_fake_platform<Dialogue> {
     // smaininfo2 as the main program calls it, screen cleared after.
     void start() {
         smaininfo2("tarnolix            ", "12.3", "2024-09-14");
@@ -61,7 +52,7 @@ struct RunInfo : Dialogue {
 // ---------------------------------------------------------------------------
 // Start-up, the banner and the system questions.
 
-TEST_F(RunInfo, StartUpShowsTheBannerThatWaitsForReturn) {
+TEST_F(RunInfo, StartUpShowsTheBannerThatWaitsForReturnWithWhatThePlatformSays) {
     smaininfo2("tarnolix            ", "12.3", "2024-09-14");
     EXPECT_EQ(screen(), (lines_t{AT50, SWPINFO_HEAD, " @" + std::string(49, '='), " INITIALISING RUN INFO"}));
     EXPECT_TRUE(nothing_left());
@@ -89,9 +80,8 @@ TEST_F(RunInfo, StartUpShowsTheBannerThatWaitsForReturn) {
     swpinfo(code, 1);
     progheadzk2();
     EXPECT_EQ(lines(8, 2), (lines_t{" @       Starting on 2024-03-05 at 10:20:39", " @    System: Debian_12"}));
-}
 
-TEST_F(RunInfo, OtherProcessorsAreKeptWholeCutToThirtyAndAFailedHostIsMacintosh) {
+    // Other processors are kept whole, cut to thirty; a failed host is Macintosh.
     fake.cpu_answer = "  AMD EPYC 7763 64-Core Processor with a long tail";
     fake.host_status = 1;
     fake.login = "a-very-long-login";
@@ -157,7 +147,7 @@ TEST_F(RunInfo, TheRealSystemIsAskedAndNothingIsLeftBehind) {
 // ---------------------------------------------------------------------------
 // The end report.
 
-TEST_F(RunInfo, TheEndReportGivesTheTimesAndAFigureByTheSeconds) {
+TEST_F(RunInfo, TheEndReportGivesTheTimesInSecondsOrMinutesAndTheClockMayHaveWrapped) {
     fake.count = 1000;
     fake.cpu = 1.5f;
     start();
@@ -172,11 +162,6 @@ TEST_F(RunInfo, TheEndReportGivesTheTimesAndAFigureByTheSeconds) {
                                  "                         O      ", "                       O   O    ",
                                  "                     O   O   O  ", "                   O   O   O   O", "  ",
                                  AT50}));
-}
-
-TEST_F(RunInfo, LongRunsAreInMinutesAndTheClockMayHaveWrapped) {
-    fake.count = 1000;
-    start();
     struct { int count, rate, count_max; lines_t times; /* lines 6 to 8 */ } cases[] = {
         {121001, 1000, 2147483647,
          {" @ ELAPSED TIME =       2.000 mn", " @       modulo     35791.395 mn", " @ CPU TIME     =       2.500 mn"}},
@@ -186,7 +171,7 @@ TEST_F(RunInfo, LongRunsAreInMinutesAndTheClockMayHaveWrapped) {
         {400, 1000, 2000, {" @ ELAPSED TIME =       1.400 seconds", " @       modulo         0.033 mn"}},
         {400, 0, 2000, {" @ Could not compute elapsed system clock time", " @ CPU TIME     =       2.500 mn"}},
     };
-    fake.cpu = 150.0f;
+    fake.cpu = 151.5f;
     for (const auto& c : cases) {
         clear();
         fake.count = c.count, fake.rate = c.rate, fake.count_max = c.count_max;
@@ -254,7 +239,16 @@ TEST_F(RunInfo, AFourthLevelIsCountedButNotNamedAndLevelOneCannotBeLeft) {
 // ---------------------------------------------------------------------------
 // The record at the head of a table.
 
-TEST_F(RunInfo, TablesCarryWhatTheCodeAsksFor) {
+TEST_F(RunInfo, TablesCarryWhatTheCodeAsksForAndSayWhenThereIsNoMainProgram) {
+    type({""});
+    const lines_t t = table();
+    ASSERT_EQ(t.size(), 4u);
+    EXPECT_EQ(t[3], " *** program information ERROR : routine level < 1 ***");
+    const lines_t frame = error_head_lines("  writeruninf") + lines_t{" Current routine level =    0",
+                                                                      " Can store up to level =    3",
+                                                                      " => No program information"};
+    EXPECT_EQ(lines(0, int(frame.size())), frame);
+
     start();
     ssubinfo2("logplot2", " 3.2", "2019-07-29");
     scmndinfo(332);
@@ -275,31 +269,14 @@ TEST_F(RunInfo, TablesCarryWhatTheCodeAsksFor) {
     EXPECT_TRUE(screen().empty());
 }
 
-TEST_F(RunInfo, ATableWrittenWithoutAMainProgramSaysSo) {
-    type({""});
-    auto t = table();
-    ASSERT_EQ(t.size(), 4u);
-    EXPECT_EQ(t[3], " *** program information ERROR : routine level < 1 ***");
-    const lines_t want = error_head_lines("  writeruninf") + lines_t{" Current routine level =    0",
-                                                                     " Can store up to level =    3",
-                                                                     " => No program information"};
-    EXPECT_EQ(lines(0, int(want.size())), want);
-}
-
 // ---------------------------------------------------------------------------
 // The record on a plot.
 
-struct PlotRunInfo : plot_session {
+struct PlotRunInfo : on_fake_platform<plot_session> {
     void SetUp() override {
-        plot_session::SetUp();
-        use_fake_platform();
-        runinfo3com = runinfo3com_t{};
+        on_fake_platform::SetUp();
         smaininfo2("tarnolix            ", "12.3", "2024-09-14");
         con.screen.clear();
-    }
-    void TearDown() override {
-        runinfo_platform = runinfo_platform_default();
-        plot_session::TearDown();
     }
 
     // The strings shown since the last look, the points they start at and
@@ -323,15 +300,29 @@ struct PlotRunInfo : plot_session {
     }
 };
 
-TEST_F(PlotRunInfo, TheBlockIsDrawnAtHalfSizeOneAndAHalfHalfSizesApart) {
+// The run info block at half size, one and a half half sizes apart, its
+// lines chosen by the code; a text and the data block at their places.
+TEST_F(PlotRunInfo, TheBlocksAreDrawnAtTheirPlacesAndSizesWithWhatTheCodeAsksFor) {
     open_plot("block.ps");
-    ssubinfo2("logplot2", " 3.2", "2019-07-29");
-    scmndinfo(332);
-    skip_lines();
+    ssubinfo2("statplot", " 8.1", "2019-07-29");
+    scmndinfo(20);
+    const std::string run = "Run on 2024-03-05 at 10:20:39", who = "by akordem on pad-07.harvenhold.example",
+                      sys = "System : Debian_12 Core i7-8700 CPU @ 3.20GHz",
+                      chain = "tarnolix   _12.3 -> statplot   _ 8.1";
+    const lines_t want[] = {{run, who, sys, chain + " Command = 20"},
+                            {run, who, sys, chain},
+                            {run, sys, chain + " Command = 20"},
+                            {run, sys, chain}};
     con.screen.clear();
-    cmplotruninfo2(10.0f, 20.0f);
-    auto t = texts();  // the lines themselves by code below
-    EXPECT_EQ(t.texts.back(), "tarnolix   _12.3 -> logplot2   _ 3.2 Command = 332");
+    shown t;
+    for (int code = 3; code >= 0; --code) {
+        int c = code;
+        swpinfo(c, 1);
+        skip_lines();
+        cmplotruninfo2(10.0f, 20.0f);
+        t = texts();
+        EXPECT_EQ(t.texts, want[code]) << code;
+    }
     EXPECT_EQ(t.points, (lines_t{"283.50 567.00", "283.50 556.37", "283.50 545.74", "283.50 535.11"}));
     // 0.25 cm is 7 points; the size in force before comes back after.
     EXPECT_EQ(t.size, "7");
@@ -349,30 +340,11 @@ TEST_F(PlotRunInfo, TheBlockIsDrawnAtHalfSizeOneAndAHalfHalfSizesApart) {
                                 "Number of data: 1234"}));
     EXPECT_EQ(t.points, (lines_t{"85.05 567.00", "85.05 556.37", "85.05 545.74", "85.05 535.11"}));
     EXPECT_EQ(plt2blk.textsizcm, 0.5f);
-    close_plot();
-    EXPECT_GS_RENDERS("block.ps");
-}
 
-TEST_F(PlotRunInfo, TheCodeChoosesUserHostAndCommandAndBelowTheThirdLevelTheChainEndsWithX) {
-    open_plot("codes.ps");
-    ssubinfo2("statplot", " 8.1", "2019-07-29");
-    scmndinfo(20);
-    const std::string run = "Run on 2024-03-05 at 10:20:39", who = "by akordem on pad-07.harvenhold.example",
-                      sys = "System : Debian_12 Core i7-8700 CPU @ 3.20GHz",
-                      chain = "tarnolix   _12.3 -> statplot   _ 8.1";
-    const lines_t want[] = {{run, who, sys, chain + " Command = 20"},
-                            {run, who, sys, chain},
-                            {run, sys, chain + " Command = 20"},
-                            {run, sys, chain}};
-    for (int code = 0; code <= 3; ++code) {
-        int c = code;
-        swpinfo(c, 1);
-        skip_lines();
-        cmplotruninfo2(15.0f, 20.0f);
-        EXPECT_EQ(texts().texts, want[code]) << code;
-    }
     // The chain of a fourth level no longer fits in 60 characters and goes
-    // on below.
+    // on below, ending with x.
+    int c = 3;
+    swpinfo(c, 1);
     ssubinfo2("hstwrite", " 3.0", "2012-04-27");
     ssubinfo2("deeper", " 1.0", "2020-01-01");
     con.screen.clear();
@@ -380,7 +352,7 @@ TEST_F(PlotRunInfo, TheCodeChoosesUserHostAndCommandAndBelowTheThirdLevelTheChai
     EXPECT_EQ(texts().texts, (lines_t{run, sys, chain, "-> hstwrite   _ 3.0 -> x"}));
     EXPECT_EQ(con.screen, warning_head_lines("  cmplotrunin") + LEVEL3_OF_2 + lines_t{SLASH50});
     close_plot();
-    EXPECT_GS_RENDERS("codes.ps");
+    EXPECT_GS_RENDERS("block.ps");
 }
 
 }  // namespace
