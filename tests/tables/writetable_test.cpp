@@ -2,7 +2,10 @@
 // blocks of the file, and a well table written and read back.
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+
 #include <algorithm>
+#include <csignal>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
@@ -106,6 +109,26 @@ TEST_F(Writer, OnTheTerminalNothingIsClosed) {
                        "       1234.5677        100.5000         -3.2500"}));
     EXPECT_EQ(lines(k + 11, 3), (lines_t{" NUMBER OF SAVED COLUMNS =    3", " NUMBER OF SAVED LINES   =    2",
                                          " OUTPUT FILE out.txt REMAINS OPEN"}));
+}
+
+// A disk that fills while the table is written: the error frame instead of
+// the report of a table written, and the file closed with what it took.
+TEST_F(Writer, ATableTheDiskWontTakeIsReportedAndClosed) {
+    rlimit old;
+    getrlimit(RLIMIT_FSIZE, &old);
+    rlimit small = old;
+    small.rlim_cur = 100;
+    setrlimit(RLIMIT_FSIZE, &small);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    write(55, 1);
+    std::signal(SIGXFSZ, handler);
+    setrlimit(RLIMIT_FSIZE, &old);
+    const int k = find(" COULD NOT WRITE output table FILE");
+    ASSERT_GT(k, 0);
+    EXPECT_EQ(lines(k + 1, 2), (lines_t{" File name = out.txt", " for unit =   55"}));
+    EXPECT_EQ(find(" WRITING COMPLETED"), -1);
+    EXPECT_FALSE(unit_is_open(55));
+    EXPECT_EQ(std::filesystem::file_size("out.txt"), 100u);
 }
 
 TEST_F(Writer, AWellTableWrittenWithTheStandardHeaderReadsBackTheSame) {
