@@ -26,32 +26,11 @@
 
 namespace {
 
-// A rotating tool in a hole with a breakout every 2000 samples.
-void load_well() {
-    int id = 200;
-    wdtype(id, 1);
-    welldat_t& w = welldat;
-    w.ndatwd = MAXDATWD;
-    for (int i = 1; i <= MAXDATWD; ++i) {
-        const float t = float(i);
-        const bool breakout = (i / 1000) % 2 == 1;
-        w.RWD1(i, 1) = 2000.f + 0.1524f * t;
-        w.RWD1(i, 2) = breakout ? 65.f : std::fmod(0.9f * t, 360.f);
-        w.RWD1(i, 3) = 25.3f + (breakout ? 5.f + std::sin(0.05f * t) : 0.1f * std::sin(t));
-        w.RWD1(i, 4) = 25.3f + 0.1f * std::cos(t);
-        w.RWD1(i, 5) = std::fmod(0.9f * t + 200.f, 360.f);
-        w.RWD1(i, 6) = 1.f;
-        w.RWD1(i, 7) = 135.f;
-    }
-    wellpara.ztop = 2000.f;
-    wellpara.zbot = 2000.f + 0.1524f * float(MAXDATWD);
-}
-
 void logpage(benchmark::State& state, const char* icmd) {
     scripted_console con;
     console_scope scope(con);
     start_log_session(con);
-    load_well();
+    load_breakout_well(200, [](float) { return 1.f; });
     for (auto _ : state) {
         con.keys = {icmd, "", "99"};  // the page, a new page on the open file, leave
         logplot2(0);

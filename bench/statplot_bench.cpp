@@ -27,29 +27,13 @@
 
 namespace {
 
-// A rotating tool in a deviated hole with a breakout every 2000 samples;
-// every value inside the histograms' ranges.
+// The breakout well in a deviated hole: every value inside the histograms'
+// ranges.
 void load_well() {
     swellparam(5);
     int id = 0;
     wdtype(id, 5);
-    id = 200;
-    wdtype(id, 1);
-    welldat_t& w = welldat;
-    w.ndatwd = MAXDATWD;
-    for (int i = 1; i <= MAXDATWD; ++i) {
-        const float t = float(i);
-        const bool breakout = (i / 1000) % 2 == 1;
-        w.RWD1(i, 1) = 2000.f + 0.1524f * t;
-        w.RWD1(i, 2) = breakout ? 65.f : std::fmod(0.9f * t, 360.f);
-        w.RWD1(i, 3) = 25.3f + (breakout ? 5.f + std::sin(0.05f * t) : 0.1f * std::sin(t));
-        w.RWD1(i, 4) = 25.3f + 0.1f * std::cos(t);
-        w.RWD1(i, 5) = std::fmod(0.9f * t + 200.f, 360.f);
-        w.RWD1(i, 6) = 20.f + 5.f * std::sin(0.001f * t);
-        w.RWD1(i, 7) = 135.f;
-    }
-    wellpara.ztop = 2000.f;
-    wellpara.zbot = 2000.f + 0.1524f * float(MAXDATWD);
+    load_breakout_well(200, [](float t) { return 20.f + 5.f * std::sin(0.001f * t); });
 }
 
 struct session {

@@ -15,30 +15,11 @@
 
 namespace {
 
-// A tool rotating through many half turns, stopped in a breakout every
-// 2000 samples.
-void load_well() {
-    int id = 100;
-    wdtype(id, 1);
-    welldat_t& w = welldat;
-    w.ndatwd = MAXDATWD;
-    for (int i = 1; i <= MAXDATWD; ++i) {
-        const float t = float(i);
-        const bool breakout = (i / 1000) % 2 == 1;
-        w.RWD1(i, w.JCOL(w.jdepth)) = 2000.f + 0.1524f * t;
-        w.RWD1(i, w.JCOL(w.jp1az)) = breakout ? 65.f : std::fmod(0.9f * t, 360.f);
-        w.RWD1(i, w.JCOL(w.jc1)) = 25.3f + (breakout ? 5.f + std::sin(0.05f * t) : 0.1f * std::sin(t));
-        w.RWD1(i, w.JCOL(w.jc2)) = 25.3f + 0.1f * std::cos(t);
-    }
-    wellpara.ztop = 2000.f;
-    wellpara.zbot = 2000.f + 0.1524f * float(MAXDATWD);
-}
-
 void BM_WallPage(benchmark::State& state) {
     scripted_console con;
     console_scope scope(con);
     start_log_session(con);
-    load_well();
+    load_breakout_well(100, nullptr);
     for (auto _ : state) {
         con.keys = {"100", "", "99"};  // the page, a new page on the open file, leave
         wallplot2(0);
