@@ -174,21 +174,10 @@ void pageframe(int icmd, int itop, int ibot, bool ldata, bool lcal) {
         trackaxisrange(AXAZCMAXCAT, p.azcmaxorig, p.azcmaxorig + 180.0f);
     }
 
-    const bool land = wellplot.llandscape;
-    const float y = land ? 20.0f : 29.0f;
+    const auto [x, y] = wellpagehead(w.finwd.sv());
     attributekept<int> entryalign(stextalign);
-    int align = -2;
+    int align = -3;
     stextalign(align, 1);
-    cmplotruninfo2(land ? 15.0f : 10.5f, y);
-
-    align = -1;
-    stextalign(align, 1);
-    cmplotdatainfo0("WELL", w.TYPWDNAM(w.itypwd).sv(), w.finwd.sv(), w.titlewd.sv(), w.ndatwd,
-                    land ? 3.0f : 2.0f, y);
-
-    align = -3;
-    stextalign(align, 1);
-    const float x = land ? 27.0f : 19.0f;
     // The lines need a selection; without data there is none to describe.
     if (ldata && ibot >= itop) {
         const int jdep = w.JCOL(w.jdepth);

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "borehole/derived.h"
+#include "borehole/tracks.h"
 #include "borehole/wellplot.h"
 #include "histogram/blkhst8.h"
 #include "math/angles.h"
@@ -227,22 +228,12 @@ void pagehead(int icmd, int i1, int i2, int nsel) {
     rule();
     if (icmd > 300 || !iocom.lplotopen) return;
 
-    const bool land = wellplot.llandscape;
-    const float y = land ? 20.0f : 29.0f;
-    int entryalign = 0, align = 0;
-    stextalign(entryalign, 3);
-    align = -3;
-    stextalign(align, 1);
-    cmplotcharinfo2(first, 1, land ? 27.0f : 19.0f, y);
-    align = -2;
-    stextalign(align, 1);
     scmndinfo(icmd);
-    cmplotruninfo2(land ? 15.0f : 10.5f, y);
-    align = -1;
+    const auto [x, y] = wellpagehead(w.finwd.sv());
+    attributekept<int> entryalign(stextalign);
+    int align = -3;
     stextalign(align, 1);
-    cmplotdatainfo0("WELL", w.TYPWDNAM(w.itypwd).sv(), w.finwd.sv(), w.titlewd.sv(), w.ndatwd,
-                    land ? 3.0f : 2.0f, y);
-    stextalign(entryalign, 1);
+    cmplotcharinfo2(first, 1, x, y);
 }
 
 // Command 400.

@@ -328,20 +328,10 @@ void stresspage(std::string_view file) {
     const stresscom_t& s = stresscom;
     welldat_t& w = welldat;
     const bool land = wellplot.llandscape;
-    const float H = land ? 21.0f : 30.0f;
     const int jdep = w.JCOL(w.jdepth);
 
     // The head: data, run and result.
-    {
-        attributekept<int> align(stextalign);
-        int a = -1;
-        stextalign(a, 1);
-        cmplotdatainfo0("WELL", w.TYPWDNAM(w.itypwd).sv(), file, w.titlewd.sv(), w.ndatwd,
-                        land ? 3.0f : 2.0f, H - 1.0f);
-        a = -2;
-        stextalign(a, 1);
-        cmplotruninfo2(land ? 15.0f : 10.5f, H - 1.0f);
-    }
+    wellpagehead(file);
 
     // The depth track of the zones.
     const float z1 = s.ibot >= s.itop ? w.RWD1(s.itop, jdep) : 0.0f;

@@ -153,21 +153,9 @@ void pagetext(int i1, int i2) {
     stextangle(angle, 1);
     int entryalign = 0, align = 0;
     stextalign(entryalign, 3);
-    const bool land = wellplot.llandscape;
-    const float y = land ? 20.0f : 29.0f;
-
-    align = -2;
-    stextalign(align, 1);
-    cmplotruninfo2(land ? 15.0f : 10.5f, y);
-
-    align = -1;
-    stextalign(align, 1);
-    cmplotdatainfo0("WELL", w.TYPWDNAM(w.itypwd).sv(), w.finwd.sv(), w.titlewd.sv(), w.ndatwd,
-                    land ? 3.0f : 2.0f, y);
-
+    const auto [x, y] = wellpagehead(w.finwd.sv());
     align = -3;
     stextalign(align, 1);
-    const float x = land ? 27.0f : 19.0f;
     const int jdep = w.JCOL(w.jdepth);
     // The increment is that of the file's first two rows.
     const float inc = w.ndatwd >= 2 ? w.RWD1(2, jdep) - w.RWD1(1, jdep) : 0.0f;

@@ -7,7 +7,9 @@
 #include "plot/pages.h"
 #include "shell/menus.h"
 #include "shell/prompts.h"
+#include "shell/runinfo.h"
 #include "shell/sio.h"
+#include "well/welldat.h"
 
 wellplot_t wellplot;
 
@@ -145,4 +147,21 @@ void slogbox(const int& isubplot, const int& ixaxis, const int& iyaxis, const in
         g1axbd(m.yumax, m.yumin, iyaxis);
     }
     if (iframe != 0) d1bx2d(1);
+}
+
+pageinfoplace wellpagehead(std::string_view file) {
+    const welldat_t& w = welldat;
+    const bool land = wellplot.llandscape;
+    const float y = land ? 20.0f : 29.0f;
+    {
+        attributekept<int> entry(stextalign);
+        int align = -2;
+        stextalign(align, 1);
+        cmplotruninfo2(land ? 15.0f : 10.5f, y);
+        align = -1;
+        stextalign(align, 1);
+        cmplotdatainfo0("WELL", w.TYPWDNAM(w.itypwd).sv(), file, w.titlewd.sv(), w.ndatwd,
+                        land ? 3.0f : 2.0f, y);
+    }
+    return {land ? 27.0f : 19.0f, y};
 }

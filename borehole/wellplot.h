@@ -66,3 +66,12 @@ void swellplot(const int& intera);
 // and leaves the box's border types as they were.
 void slogbox(const int& isubplot, const int& ixaxis, const int& iyaxis, const int& iframe,
              std::string_view label);
+
+// The head of every well page, at its top for the orientation: the run in
+// the middle and the well loaded (shown with file as its file name) on the
+// left. The text alignment is left as it was. Returns the place of the
+// right-hand lines (cmplotcharinfo2, right-aligned).
+struct pageinfoplace {
+    float x, y;
+};
+pageinfoplace wellpagehead(std::string_view file);
