@@ -144,18 +144,6 @@ void centralintervals() {
 
 bool plotcommand(int icmd) { return icmd >= 100 && icmd <= 400; }
 
-std::string realtext(float v) {
-    fstr<12> t;
-    int k = 0;
-    real2charf1(t, k, 2, 12, v);
-    return std::string(t.sub(1, k));
-}
-std::string integtext(int v) {
-    fstr<12> t;
-    int k = 0;
-    intg2char(t, k, 12, v);
-    return std::string(t.sub(1, k));
-}
 
 // The head of a plot page: the depth and azimuth scales of the selection,
 // then the run information, the data information and the parameters that
@@ -180,23 +168,20 @@ void pageframe(int icmd, int itop, int ibot, bool ldata, bool lcal) {
     stextalign(align, 1);
     // The lines need a selection; without data there is none to describe.
     if (ldata && ibot >= itop) {
+        auto num = [](float v) { return realtext(v, 2, 12); };
         const int jdep = w.JCOL(w.jdepth);
         // The increment is that of the file's first two rows, wherever the
         // selection starts.
         const float inc = w.ndatwd >= 2 ? w.RWD1(2, jdep) - w.RWD1(1, jdep) : 0.0f;
-        cmplotcharinfo2("Depth init = " + realtext(w.RWD1(itop, jdep)) + " final = " +
-                            realtext(w.RWD1(ibot, jdep)) + " inc = " + realtext(inc),
-                        1, x, y);
+        cmplotcharinfo2("Depth init = " + num(w.RWD1(itop, jdep)) + " final = " +
+                            num(w.RWD1(ibot, jdep)) + " inc = " + num(inc), 1, x, y);
         // 362 stops short of the test parameters on purpose.
         const bool tests = (icmd >= 321 && icmd <= 351) || (icmd >= 354 && icmd <= 361);
         if (tests) {
-            cmplotcharinfo2("BS = " + realtext(p.bitsize) + " t1 = " + realtext(-p.cbsmin) +
-                                " t2 = " + realtext(p.cbsmax),
-                            2, x, y);
-            cmplotcharinfo2("C1Sat = " + realtext(p.c1sat) + " C2Sat = " + realtext(p.c2sat), 3,
-                            x, y);
-            cmplotcharinfo2("DCt = " + realtext(p.cdiff) + " RBt = " + realtext(p.rbcmaxthr), 4,
-                            x, y);
+            cmplotcharinfo2("BS = " + num(p.bitsize) + " t1 = " + num(-p.cbsmin) + " t2 = " +
+                                num(p.cbsmax), 2, x, y);
+            cmplotcharinfo2("C1Sat = " + num(p.c1sat) + " C2Sat = " + num(p.c2sat), 3, x, y);
+            cmplotcharinfo2("DCt = " + num(p.cdiff) + " RBt = " + num(p.rbcmaxthr), 4, x, y);
         } else if (icmd == 303 || icmd == 304 || icmd == 305) {
             cmplotcharinfo2("Centered rotation on " + integtext(logsaved.nrotc) + " intervals", 2,
                             x, y);

@@ -203,12 +203,6 @@ void menu() {
 }
 
 
-std::string depthtext(float v) {
-    fstr<9> t;
-    int k = 0;
-    real2charf1(t, k, 2, 9, v);
-    return std::string(t.sub(1, k));
-}
 
 // The page head: the selection on the console, and for a page the
 // selection, the run information and the data information on the plot.
@@ -216,10 +210,10 @@ void pagehead(int icmd, int i1, int i2, int nsel) {
     const welldat_t& w = welldat;
     const bool z = statsaved.lztest;
     const int jdep = w.JCOL(w.jdepth);
-    std::string first = "Depth init = " + depthtext(w.RWD1(i1, jdep)) + " final = " +
-                        depthtext(w.RWD1(i2, jdep));
+    auto depth = [](float v) { return realtext(v, 2, 9); };
+    std::string first = "Depth init = " + depth(w.RWD1(i1, jdep)) + " final = " + depth(w.RWD1(i2, jdep));
     // The increment is that of the file's first two rows.
-    if (z) first += " inc = " + depthtext(w.ndatwd >= 2 ? w.RWD1(2, jdep) - w.RWD1(1, jdep) : 0.0f);
+    if (z) first += " inc = " + depth(w.ndatwd >= 2 ? w.RWD1(2, jdep) - w.RWD1(1, jdep) : 0.0f);
     rule();
     line(first);
     line(z ? "WITH DEPTH SELECTION" : "WITHOUT DEPTH SELECTION");

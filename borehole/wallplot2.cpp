@@ -132,18 +132,6 @@ void datacheck() {
     errortail00();
 }
 
-std::string realtext(float v, int decimals, int maximum) {
-    fstr<16> t;
-    int k = 0;
-    real2charf1(t, k, decimals, maximum, v);
-    return std::string(t.sub(1, k));
-}
-std::string integtext(int v) {
-    fstr<12> t;
-    int k = 0;
-    intg2char(t, k, 12, v);
-    return std::string(t.sub(1, k));
-}
 
 // The run, data and plot information at the top of the page.
 void pagetext(int i1, int i2) {

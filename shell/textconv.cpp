@@ -158,3 +158,17 @@ void careafmpn(fstr_ref text, int m, int n, float value) {
         f = formatf("('(f',i2,'.',i2,')')", m, n);
     text.assign(formatf(f, value));
 }
+
+std::string realtext(float value, int decimals, int maximum) {
+    fstr<32> t;
+    int k = 0;
+    real2charf1(t, k, decimals, maximum, value);
+    return std::string(t.sub(1, k));
+}
+
+std::string integtext(int value) {
+    fstr<12> t;
+    int k = 0;
+    intg2char(t, k, 12, value);
+    return std::string(t.sub(1, k));
+}
